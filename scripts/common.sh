@@ -1,0 +1,60 @@
+# Shared by the build, run and test scripts: sourced, not run.
+# Paths and the Wine environment of one build tree.
+
+repo_root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+build_dir=${MORVANE_BUILD_DIR:-$repo_root/build}
+
+export WINEDEBUG=${WINEDEBUG:--all}
+# No Mono or Gecko installer prompts in a fresh prefix.
+export WINEDLLOVERRIDES=${WINEDLLOVERRIDES:-mscoree,mshtml=}
+
+build_morvane() {
+  bash "$repo_root/scripts/install-deps.sh"
+  cmake -S "$repo_root" -B "$build_dir" \
+    -DCMAKE_TOOLCHAIN_FILE="$repo_root/cmake/mingw-w64-x86_64.cmake" >/dev/null
+  cmake --build "$build_dir" -j"$(nproc)"
+}
+
+# Creates the prefix on first use (about 10 s), later a no-op.
+prepare_wine_prefix() {
+  export WINEPREFIX=$1
+  if [ ! -f "$WINEPREFIX/system.reg" ]; then
+    mkdir -p "$WINEPREFIX"
+    wineboot -i >/dev/null 2>&1
+    wineserver -w
+  fi
+  # Windows keeps Tahoma and friends in its Fonts folder; Debian's Wine has
+  # them only in its data folder, where Wine 8 does not look.
+  local fonts="$WINEPREFIX/drive_c/windows/Fonts"
+  mkdir -p "$fonts"
+  cp -n /usr/share/wine/fonts/*.ttf "$fonts"/ 2>/dev/null || true
+}
+
+# Starts a persistent Wine server and Wine's own services. Their output goes
+# nowhere: a service holding a test runner's pipe would keep it waiting.
+start_wine_server() {
+  wineserver -p
+  wine cmd.exe /c exit >/dev/null 2>&1 </dev/null
+}
+
+xvfb_pid=""
+# Starts a private X server for programs that need a display; sets DISPLAY.
+start_virtual_display() {
+  local fifo
+  fifo=$(mktemp -u)
+  mkfifo "$fifo"
+  Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp 3>"$fifo" >/dev/null 2>&1 &
+  xvfb_pid=$!
+  local number
+  read -r number <"$fifo"
+  rm -f "$fifo"
+  export DISPLAY=":$number"
+}
+
+stop_virtual_display() {
+  if [ -n "$xvfb_pid" ]; then
+    kill "$xvfb_pid" 2>/dev/null
+    wait "$xvfb_pid" 2>/dev/null
+    xvfb_pid=""
+  fi
+}

@@ -1,0 +1,62 @@
+#include "frame/Modulo.h"
+
+#include <array>
+
+#include "frame/RunState.h"
+#include "frame/modINI.h"
+
+namespace frame {
+namespace {
+
+constexpr char kDefaultFace[] = "Tahoma";
+constexpr std::array<const char*, 4> kFallbackFaces = {"Tahoma", "Verdana", "Arial",
+                                                       "MS Sans Serif"};
+
+struct KindFont {
+  const char* kind;
+  double points;
+  bool bold;
+};
+constexpr std::array<KindFont, 3> kKindFonts = {{
+    {"Label", 10, true},
+    {"TextBox", 10, false},
+    {"PictureBox", 9, true},
+}};
+
+// Runs one property assignment; a failing one is stepped over.
+template <typename Assignment>
+bool TryAssign(Assignment assign) {
+  try {
+    assign();
+    return true;
+  } catch (const toolkit::ElementError&) {
+    return false;
+  }
+}
+
+}  // namespace
+
+std::string TextBeforeNul(const std::string& text) {
+  auto nul = text.find('\0');
+  return nul == std::string::npos ? std::string() : text.substr(0, nul);
+}
+
+void ApplyInterfaceFont(const toolkit::ElementOwner& window) {
+  std::string face = ReadIniValue("Config", "Font", programFolder + "Config.ini");
+  if (face.empty()) face = kDefaultFace;
+
+  for (toolkit::Element* element : window.Elements()) {
+    if (!TryAssign([&] { element->SetFontName(face); })) {
+      for (const char* fallback : kFallbackFaces) {
+        if (TryAssign([&] { element->SetFontName(fallback); })) break;
+      }
+    }
+    for (const KindFont& kindFont : kKindFonts) {
+      if (element->Kind() != kindFont.kind) continue;
+      TryAssign([&] { element->SetFontSize(kindFont.points); });
+      TryAssign([&] { element->SetFontBold(kindFont.bold); });
+    }
+  }
+}
+
+}  // namespace frame

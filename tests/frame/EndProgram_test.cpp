@@ -1,0 +1,65 @@
+// EndProgram ends the process, so each case runs in a child process of its
+// own (a death test) and the parent checks what it left behind.
+#include "frame/EndProgram.h"
+
+#include <gtest/gtest.h>
+
+#include "frame/RunState.h"
+#include "support/TestSupport.h"
+#include "toolkit/LoadedWindows.h"
+
+namespace {
+
+using testing_support::PathExists;
+using testing_support::ReadWholeFile;
+using testing_support::ScratchFolder;
+using testing_support::WriteWholeFile;
+
+// Stands in for a loaded window: unloading appends its name to a log file.
+class LoggedWindow : public toolkit::LoadedWindow {
+ public:
+  LoggedWindow(std::string name, std::string log, bool closing)
+      : name_(std::move(name)), log_(std::move(log)), closing_(closing) {
+    toolkit::RegisterLoadedWindow(this);
+  }
+  void Unload() override {
+    WriteWholeFile(log_, ReadWholeFile(log_) + name_ + ";");
+    toolkit::UnregisterLoadedWindow(this);
+  }
+  bool Closing() const override { return closing_; }
+
+ private:
+  std::string name_, log_;
+  bool closing_;
+};
+
+class EndProgramTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    frame::programFolder = folder_.Path() + "\\";
+  }
+  ScratchFolder folder_{::testing::UnitTest::GetInstance()->current_test_info()->name()};
+};
+
+TEST_F(EndProgramTest, RemovesTheFontFileAndEndsWithCodeZero) {
+  const std::string font = folder_ / "Morvane.ttf";
+  WriteWholeFile(font, "left by an earlier run");
+  EXPECT_EXIT(frame::EndProgram(false), ::testing::ExitedWithCode(0), "");
+  EXPECT_FALSE(PathExists(font));
+}
+
+TEST_F(EndProgramTest, UnloadsLoadedWindowsInOrderPassingOverOneThatIsClosing) {
+  const std::string log = folder_ / "unloaded.txt";
+  auto unloadThreeAndEnd = [&log] {
+    WriteWholeFile(log, "");
+    LoggedWindow main("main", log, false);
+    LoggedWindow closing("closing", log, true);
+    LoggedWindow about("about", log, false);
+    frame::EndProgram(false);
+  };
+  EXPECT_EXIT(unloadThreeAndEnd(), ::testing::ExitedWithCode(0), "");
+  EXPECT_EQ(ReadWholeFile(log), "main;about;");
+}
+
+}  // namespace

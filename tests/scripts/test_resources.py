@@ -1,0 +1,214 @@
+"""Checks what scripts/make_art.py and scripts/make_font.py generate.
+Run from the repository root: /usr/bin/python3 -m unittest discover -s tests/scripts -v
+"""
+
+import math
+import os
+import struct
+import subprocess
+import sys
+import tempfile
+import unittest
+
+from fontTools.misc.timeTools import timestampNow
+from fontTools.pens.areaPen import AreaPen
+from fontTools.pens.basePen import BasePen
+from fontTools.ttLib import TTFont
+from PIL import Image
+
+SCRIPTS = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..", "scripts")
+YELLOW = (255, 255, 0)
+CLIENT = (577, 428)
+# Window elements (left, top, right, bottom; right and bottom exclusive); the
+# framed ones carry a one-pixel 3-D border.
+PLAIN = [(3, 0, 253, 37), (255, 0, 256, 33), (41, 51, 249, 83), (41, 90, 249, 122),
+         (41, 129, 249, 161), (8, 174, 252, 190), (9, 342, 253, 355), (519, 48, 568, 67),
+         (48, 390, 188, 415), (261, 390, 341, 415), (492, 390, 572, 415),
+         (50, 5, 250, 39), (0, 42, 300, 43)]  # last two: logo, etched line
+FRAMED = [(9, 51, 41, 83), (9, 90, 41, 122), (9, 129, 41, 161), (8, 195, 255, 328),
+          (8, 360, 255, 381), (264, 72, 569, 385), (351, 390, 486, 415)]
+
+
+def build(script, target):
+    subprocess.run([sys.executable, os.path.join(SCRIPTS, script), target], check=True)
+
+
+def same_bytes(a, b):
+    with open(a, "rb") as fa, open(b, "rb") as fb:
+        return fa.read() == fb.read()
+
+
+def luminance(rgb):
+    lin = [c / 255 / 12.92 if c <= 10 else ((c / 255 + 0.055) / 1.055) ** 2.4 for c in rgb]
+    return 0.2126 * lin[0] + 0.7152 * lin[1] + 0.0722 * lin[2]
+
+
+class _Polygons(BasePen):
+    """Flattens contours into polygons in window pixels (0.32 px per unit)."""
+
+    def __init__(self, glyph_set):
+        super().__init__(glyph_set)
+        self.polygons = []
+
+    def _moveTo(self, pt):
+        self.polygons.append([(pt[0] * 0.32, (1000 - pt[1]) * 0.32)])
+
+    def _lineTo(self, pt):
+        self.polygons[-1].append((pt[0] * 0.32, (1000 - pt[1]) * 0.32))
+
+    def _qCurveToOne(self, c, pt):
+        p0 = self._getCurrentPoint()
+        for t in (i / 16 for i in range(1, 17)):
+            self._lineTo(tuple((1 - t) ** 2 * a + 2 * t * (1 - t) * b + t * t * e
+                               for a, b, e in zip(p0, c, pt)))
+
+
+def window_pixels(glyph_set):
+    """Pixels whose centres lie inside glyph "A" (even-odd, as PathToRegion fills)."""
+    pen = _Polygons(glyph_set)
+    glyph_set["A"].draw(pen)
+    edges = [(poly[i - 1], poly[i]) for poly in pen.polygons for i in range(len(poly))]
+    inside = set()
+    for y in range(-20, CLIENT[1] + 20):
+        yc = y + 0.5
+        xs = sorted(x0 + (yc - y0) * (x1 - x0) / (y1 - y0)
+                    for (x0, y0), (x1, y1) in edges if (y0 <= yc) != (y1 <= yc))
+        for left, right in zip(xs[::2], xs[1::2]):
+            inside.update((x, y) for x in range(math.ceil(left - 0.5), math.ceil(right - 0.5)))
+    return inside
+
+
+class ArtTest(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.tmp = tempfile.TemporaryDirectory()
+        for run in "ab":
+            build("make_art.py", os.path.join(cls.tmp.name, run))
+
+    @classmethod
+    def tearDownClass(cls):
+        cls.tmp.cleanup()
+
+    def open(self, name):
+        path = os.path.join(self.tmp.name, "a", name)
+        if name.endswith(".bmp"):
+            with open(path, "rb") as f:
+                self.assertEqual(struct.unpack_from("<H", f.read(30), 28)[0], 24, name)
+        return Image.open(path)
+
+    def test_rebuild_gives_identical_bytes(self):
+        for name in ("skin.bmp", "logo.bmp", "morvane.ico"):
+            self.assertTrue(same_bytes(*(os.path.join(self.tmp.name, run, name) for run in "ab")))
+
+    def test_skin_is_light_and_tiles_seamlessly(self):
+        skin = self.open("skin.bmp").convert("RGB")
+        self.assertEqual(skin.size, (128, 128))
+        px = skin.load()
+        # Blue captions are the weaker of the two: they need readable contrast
+        # even on the darkest spot.
+        darkest = min(luminance(px[x, y]) for x in range(128) for y in range(128))
+        self.assertGreaterEqual((darkest + 0.05) / (luminance((0, 0, 255)) + 0.05), 4.5)
+
+        for axis in ("column", "row"):
+            def line(i):
+                return [px[i, j] if axis == "column" else px[j, i] for j in range(128)]
+
+            def gap(i, k):
+                diffs = [max(abs(p - q) for p, q in zip(a, b)) for a, b in zip(line(i), line(k))]
+                return max(diffs), sum(diffs) / 128
+
+            inner = [gap(i, i + 1) for i in range(127)]
+            seam_max, seam_mean = gap(127, 0)
+            self.assertLessEqual(seam_max, max(m for m, _ in inner), axis)
+            self.assertLessEqual(seam_mean, 1.5 * sum(a for _, a in inner) / 127, axis)
+
+    def test_logo_uses_exact_yellow_only_for_background(self):
+        logo = self.open("logo.bmp").convert("RGB")
+        w, h = logo.size
+        self.assertTrue(190 <= w <= 210 and 30 <= h <= 37, logo.size)
+        px = logo.load()
+        rim = [(x, y) for x in range(w) for y in (0, h - 1)] + \
+              [(x, y) for x in (0, w - 1) for y in range(h)]
+        self.assertTrue(all(px[p] == YELLOW for p in rim))
+        art = [px[x, y] for x in range(w) for y in range(h) if px[x, y] != YELLOW]
+        self.assertGreater(len(art), w * h // 10)
+        # Near-yellow pixels are edges smoothed against the key colour: they
+        # would show as a yellow fringe over the skin.
+        self.assertEqual([p for p in art if max(abs(c - k) for c, k in zip(p, YELLOW)) <= 40], [])
+
+    def test_icon_holds_three_sizes_with_alpha(self):
+        with open(os.path.join(self.tmp.name, "a", "morvane.ico"), "rb") as f:
+            data = f.read()
+        self.assertEqual(struct.unpack_from("<HHH", data), (0, 1, 3))
+        entries = [struct.unpack_from("<BBBBHHII", data, 6 + 16 * i) for i in range(3)]
+        self.assertEqual(sorted((e[0], e[1], e[5]) for e in entries),
+                         [(16, 16, 32), (32, 32, 32), (48, 48, 32)])
+        with self.open("morvane.ico") as icon:
+            for size in (16, 32, 48):
+                alpha = icon.ico.getimage((size, size)).convert("RGBA").getchannel("A")
+                self.assertEqual(alpha.getextrema(), (0, 255), size)
+
+
+class FontTest(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.tmp = tempfile.TemporaryDirectory()
+        cls.paths = [os.path.join(cls.tmp.name, run + ".ttf") for run in "ab"]
+        for path in cls.paths:
+            build("make_font.py", path)
+        cls.font = TTFont(cls.paths[0])
+        cls.inside = window_pixels(cls.font.getGlyphSet())
+
+    @classmethod
+    def tearDownClass(cls):
+        cls.tmp.cleanup()
+
+    def test_rebuild_gives_identical_bytes(self):
+        self.assertTrue(same_bytes(*self.paths))
+        # Two quick builds can share a clock second; a build-time stamp would
+        # still make later rebuilds differ.
+        head = self.font["head"]
+        self.assertLess(max(head.created, head.modified), timestampNow() - 86400)
+
+    def test_wine_finds_the_face_and_the_letters(self):
+        font = self.font
+        for name_id in (1, 4, 16):
+            self.assertEqual(font["name"].getDebugName(name_id), "XFont Morvane")
+        self.assertTrue(font["OS/2"].ulCodePageRange1 & 1, "no Latin 1: Wine swaps the face")
+        cmap = font.getBestCmap()
+        self.assertEqual((cmap[0x41], cmap[0x61], cmap[0x20]), ("A", "A", "space"))
+        self.assertAlmostEqual(font["hmtx"]["A"][0], 1810, delta=20)
+
+    def test_text_cell_starts_at_the_top_of_the_em_and_holds_the_outline(self):
+        font, glyph = self.font, self.font["glyf"]["A"]
+        self.assertEqual(font["head"].unitsPerEm, 1000)
+        self.assertEqual((font["OS/2"].usWinAscent, font["hhea"].ascent), (1000, 1000))
+        self.assertLessEqual(glyph.yMax, 1000)
+        self.assertGreaterEqual(min(font["OS/2"].usWinDescent, -font["hhea"].descent), -glyph.yMin)
+
+    def test_outline_is_one_clockwise_contour(self):
+        glyph_set = self.font.getGlyphSet()
+        self.assertEqual(self.font["glyf"]["A"].numberOfContours, 1)
+        pen = AreaPen(glyph_set)
+        glyph_set["A"].draw(pen)
+        self.assertLess(pen.value, 0, "counter-clockwise: the window would be a hole")
+
+    def test_silhouette_covers_every_element(self):
+        grown = [(l - 1, t - 1, r + 1, b + 1) for l, t, r, b in FRAMED]
+        for left, top, right, bottom in PLAIN + grown:
+            missing = [(x, y) for x in range(left, right) for y in range(top, bottom)
+                       if (x, y) not in self.inside]
+            self.assertEqual(missing[:5], [], (left, top, right, bottom))
+
+    def test_silhouette_is_a_folder_within_the_client_area(self):
+        self.assertTrue(all(0 <= x < CLIENT[0] and 0 <= y < CLIENT[1] for x, y in self.inside))
+        self.assertIn((3, 0), self.inside)
+        # The tab leaves the top right open, with a clean notch where the
+        # shoulder meets the body; rounded corners cut the rest.
+        for outside in ((570, 5), (400, 20), (320, 30), (576, 44), (576, 427), (0, 427)):
+            self.assertNotIn(outside, self.inside)
+        self.assertGreater(len(self.inside), 0.85 * CLIENT[0] * CLIENT[1])
+
+
+if __name__ == "__main__":
+    unittest.main()
