@@ -22,4 +22,13 @@ inline std::string languageFile;
 // The folder being customised: the command line minus one trailing separator.
 inline std::string targetFolder;
 
+// The icon file whose icons the browser shows.
+inline std::string currentIconFile;
+// True while the browser shows only the placeholder of a file without icons.
+inline bool iconListEmpty = false;
+// True while the icons of a file are being loaded into the browser.
+inline bool loadingIcons = false;
+// True while the icon-file chooser is open.
+inline bool browsingForFile = false;
+
 }  // namespace frame
