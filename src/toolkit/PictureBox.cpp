@@ -1,0 +1,148 @@
+#include "toolkit/PictureBox.h"
+
+namespace toolkit {
+namespace {
+
+constexpr char kPictureBoxClass[] = "MorvanePictureBox";
+
+// A top-down 32-bit DIB section, so that callers can read its pixels.
+HBITMAP CreateImageBitmap(int width, int height) {
+  BITMAPINFO info{};
+  info.bmiHeader.biSize = sizeof(BITMAPINFOHEADER);
+  info.bmiHeader.biWidth = width;
+  info.bmiHeader.biHeight = -height;
+  info.bmiHeader.biPlanes = 1;
+  info.bmiHeader.biBitCount = 32;
+  info.bmiHeader.biCompression = BI_RGB;
+  void* bits = nullptr;
+  return ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+}
+
+void DrawPicture(HDC dc, const Picture& picture) {
+  HANDLE handle = picture.Handle();
+  if (!handle) return;
+  if (picture.Type() == PICTYPE_ICON) {
+    ::DrawIconEx(dc, 0, 0, static_cast<HICON>(handle), 0, 0, 0, nullptr, DI_NORMAL);
+    return;
+  }
+  BITMAP info{};
+  if (!::GetObjectA(handle, sizeof info, &info)) return;
+  ScopedMemoryDC source(::CreateCompatibleDC(dc));
+  ScopedSelect select(source.get(), handle);
+  ::BitBlt(dc, 0, 0, info.bmWidth, info.bmHeight, source.get(), 0, 0, SRCCOPY);
+}
+
+}  // namespace
+
+PictureBox::PictureBox(std::string name, HWND parent, const RECT& pixels, int id)
+    : Element(std::move(name), "PictureBox"),
+      width_(pixels.right - pixels.left),
+      height_(pixels.bottom - pixels.top),
+      backColor_(::GetSysColor(COLOR_BTNFACE)),
+      foreColor_(::GetSysColor(COLOR_BTNTEXT)) {
+  RegisterWindowClass(kPictureBoxClass, {CS_DBLCLKS | CS_OWNDC, nullptr});
+  imageDC_.reset(::CreateCompatibleDC(nullptr));
+  image_.reset(CreateImageBitmap(width_ > 0 ? width_ : 1, height_ > 0 ? height_ : 1));
+  imageDCOriginal_ = ::SelectObject(imageDC_.get(), image_.get());
+  PrepareDC(imageDC_.get());
+  Cls();
+  CreateWindowOf(kPictureBoxClass, Name().c_str(), WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, 0,
+                 pixels, parent, id);
+  if (Hwnd()) PrepareDC(::GetDC(Hwnd()));  // CS_OWNDC: the window keeps this DC
+  AttachWindow(Hwnd());
+}
+
+PictureBox::~PictureBox() {
+  DestroyOwnWindow();
+  // The image goes back out of its context before either is deleted.
+  if (imageDCOriginal_) ::SelectObject(imageDC_.get(), imageDCOriginal_);
+}
+
+HDC PictureBox::hDC() const {
+  if (autoRedraw_ || !Hwnd()) return imageDC_.get();
+  return ::GetDC(Hwnd());  // CS_OWNDC: no release needed
+}
+
+void PictureBox::PrepareDC(HDC dc) const {
+  if (!dc) return;
+  ::SetBkMode(dc, TRANSPARENT);
+  ::SetTextColor(dc, foreColor_);
+  if (Font()) ::SelectObject(dc, Font());
+}
+
+void PictureBox::OnFontChanged() {
+  PrepareDC(imageDC_.get());
+  if (Hwnd()) PrepareDC(::GetDC(Hwnd()));
+}
+
+void PictureBox::SetForeColor(COLORREF colour) {
+  foreColor_ = colour;
+  OnFontChanged();
+}
+
+void PictureBox::SetBackColor(COLORREF colour) {
+  backColor_ = colour;
+  Cls();
+}
+
+void PictureBox::PaintBackground(HDC dc) const {
+  RECT all{0, 0, width_, height_};
+  ScopedHandle<NullInvalidTraits<HBRUSH, DeleteGdiObject>> brush(::CreateSolidBrush(backColor_));
+  ::FillRect(dc, &all, brush.get());
+  DrawPicture(dc, picture_);
+}
+
+void PictureBox::Cls() {
+  PaintBackground(imageDC_.get());
+  if (Hwnd()) ::InvalidateRect(Hwnd(), nullptr, FALSE);
+}
+
+void PictureBox::SetPicture(Picture picture) {
+  picture_ = std::move(picture);
+  Cls();
+}
+
+Picture PictureBox::Image() const {
+  HBITMAP copy = CreateImageBitmap(width_, height_);
+  if (!copy) return {};
+  ScopedMemoryDC target(::CreateCompatibleDC(imageDC_.get()));
+  {
+    ScopedSelect select(target.get(), copy);
+    ::BitBlt(target.get(), 0, 0, width_, height_, imageDC_.get(), 0, 0, SRCCOPY);
+  }
+  return Picture::Adopt(Picture::Kind::Bitmap, copy);
+}
+
+void PictureBox::Refresh() {
+  if (!Hwnd()) return;
+  ::InvalidateRect(Hwnd(), nullptr, FALSE);
+  ::UpdateWindow(Hwnd());
+}
+
+void PictureBox::SetVisible(bool visible) {
+  if (Hwnd()) ::ShowWindow(Hwnd(), visible ? SW_SHOWNA : SW_HIDE);
+}
+
+bool PictureBox::Visible() const { return Hwnd() && ::IsWindowVisible(Hwnd()); }
+
+void PictureBox::OnPaint() {
+  PAINTSTRUCT paint;
+  HDC dc = ::BeginPaint(Hwnd(), &paint);
+  if (autoRedraw_) {
+    ::BitBlt(dc, 0, 0, width_, height_, imageDC_.get(), 0, 0, SRCCOPY);
+  } else {
+    PaintBackground(dc);
+  }
+  ::EndPaint(Hwnd(), &paint);
+  if (!autoRedraw_ && onPaint) onPaint();
+}
+
+LRESULT PictureBox::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_PAINT: OnPaint(); return 0;
+    case WM_ERASEBKGND: return 1;
+    default: return Default(message, wParam, lParam);
+  }
+}
+
+}  // namespace toolkit

@@ -1,0 +1,80 @@
+// A picture surface: a child window that shows a picture over its back
+// colour, and keeps a persistent image (a 32-bit DIB) that drawing goes into
+// while persistent drawing (AutoRedraw) is on. The window repaints itself
+// from the persistent image then; otherwise drawing goes straight to the
+// screen and is lost at the next repaint.
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <string>
+
+#include "toolkit/Element.h"
+#include "toolkit/Picture.h"
+#include "toolkit/ScopedHandle.h"
+#include "toolkit/WindowBase.h"
+
+namespace toolkit {
+
+class PictureBox : public Element, private WindowBase {
+ public:
+  // `pixels`: position and size in the parent's client area.
+  PictureBox(std::string name, HWND parent, const RECT& pixels, int id);
+  ~PictureBox() override;
+
+  using WindowBase::Hwnd;
+
+  int ScaleWidth() const { return width_; }  // inner size, pixels
+  int ScaleHeight() const { return height_; }
+
+  bool AutoRedraw() const { return autoRedraw_; }
+  void SetAutoRedraw(bool on) { autoRedraw_ = on; }
+
+  // Where drawing goes now: the persistent image while AutoRedraw is on,
+  // else the window itself.
+  HDC hDC() const;
+
+  // Shows what should be seen now, synchronously.
+  void Refresh();
+  // Erases everything drawn: the persistent image becomes back colour and
+  // picture again.
+  void Cls();
+
+  const Picture& GetPicture() const { return picture_; }
+  // A new picture erases everything drawn on the surface.
+  void SetPicture(Picture picture);
+  // A copy of the persistent image as a new bitmap picture.
+  Picture Image() const;
+
+  COLORREF BackColor() const { return backColor_; }
+  void SetBackColor(COLORREF colour);
+  COLORREF ForeColor() const { return foreColor_; }
+  void SetForeColor(COLORREF colour);
+
+  void SetVisible(bool visible);
+  bool Visible() const;
+
+  // Raised when the window is repainted without AutoRedraw, after the back
+  // colour and the picture.
+  std::function<void()> onPaint;
+
+ private:
+  LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+  void OnFontChanged() override;
+  void OnPaint();
+  void PaintBackground(HDC dc) const;
+  void PrepareDC(HDC dc) const;
+
+  int width_;
+  int height_;
+  bool autoRedraw_ = false;
+  COLORREF backColor_;
+  COLORREF foreColor_;
+  Picture picture_;
+  ScopedMemoryDC imageDC_;
+  ScopedBitmap image_;
+  HGDIOBJ imageDCOriginal_ = nullptr;
+};
+
+}  // namespace toolkit

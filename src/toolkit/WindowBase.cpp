@@ -1,0 +1,72 @@
+#include "toolkit/WindowBase.h"
+
+#include "toolkit/MousePointer.h"
+
+namespace toolkit {
+
+WindowBase::~WindowBase() { DestroyOwnWindow(); }
+
+bool WindowBase::RegisterWindowClass(const char* className, ClassStyle classStyle) {
+  WNDCLASSEXA existing{};
+  existing.cbSize = sizeof existing;
+  HINSTANCE instance = ::GetModuleHandleA(nullptr);
+  if (::GetClassInfoExA(instance, className, &existing)) return true;
+  WNDCLASSEXA windowClass{};
+  windowClass.cbSize = sizeof windowClass;
+  windowClass.style = classStyle.style;
+  windowClass.lpfnWndProc = &WindowBase::Procedure;
+  windowClass.hInstance = instance;
+  windowClass.hCursor = ::LoadCursorA(nullptr, IDC_ARROW);
+  windowClass.hbrBackground = classStyle.background;
+  windowClass.lpszClassName = className;
+  return ::RegisterClassExA(&windowClass) != 0;
+}
+
+bool WindowBase::CreateWindowOf(const char* className, const char* text, DWORD style,
+                                DWORD exStyle, const RECT& pixels, HWND parent, int id) {
+  HMENU menuOrId = (style & WS_CHILD) ? reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)) : nullptr;
+  ::CreateWindowExA(exStyle, className, text, style, pixels.left, pixels.top,
+                    pixels.right - pixels.left, pixels.bottom - pixels.top, parent, menuOrId,
+                    ::GetModuleHandleA(nullptr), this);
+  return hwnd_ != nullptr;
+}
+
+void WindowBase::DestroyOwnWindow() {
+  if (hwnd_) ::DestroyWindow(hwnd_);
+}
+
+LRESULT WindowBase::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  return Default(message, wParam, lParam);
+}
+
+LRESULT WindowBase::Default(UINT message, WPARAM wParam, LPARAM lParam) {
+  return ::DefWindowProcA(hwnd_, message, wParam, lParam);
+}
+
+LRESULT CALLBACK WindowBase::Procedure(HWND window, UINT message, WPARAM wParam,
+                                       LPARAM lParam) noexcept {
+  auto* self = reinterpret_cast<WindowBase*>(::GetWindowLongPtrA(window, GWLP_USERDATA));
+  if (message == WM_NCCREATE) {
+    self = static_cast<WindowBase*>(reinterpret_cast<CREATESTRUCTA*>(lParam)->lpCreateParams);
+    self->hwnd_ = window;
+    ::SetWindowLongPtrA(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(self));
+  }
+  if (!self) return ::DefWindowProcA(window, message, wParam, lParam);
+  if (message == WM_SETCURSOR && ApplyProgramPointer()) return TRUE;
+
+  LRESULT result = 0;
+  try {
+    result = self->HandleMessage(message, wParam, lParam);
+  } catch (...) {
+    // A handler that fails is stepped over, as every failure of this program
+    // is; the system must never see the exception.
+    result = ::DefWindowProcA(window, message, wParam, lParam);
+  }
+  if (message == WM_NCDESTROY) {
+    ::SetWindowLongPtrA(window, GWLP_USERDATA, 0);
+    self->hwnd_ = nullptr;
+  }
+  return result;
+}
+
+}  // namespace toolkit

@@ -1,0 +1,89 @@
+#include "toolkit/PictureBox.h"
+
+#include <gtest/gtest.h>
+
+#include "support/TestWindow.h"
+#include "toolkit/MessageLoop.h"
+
+namespace {
+
+using testing_support::PicturePixel;
+using testing_support::SolidPicture;
+using testing_support::TestWindow;
+using toolkit::PictureBox;
+
+constexpr COLORREF kBack = RGB(10, 20, 30);
+constexpr COLORREF kRed = RGB(255, 0, 0);
+constexpr COLORREF kGreen = RGB(0, 255, 0);
+
+class PictureBoxTest : public ::testing::Test {
+ protected:
+  PictureBoxTest() : box_("picTest", host_.Hwnd(), RECT{5, 5, 37, 37}, 101) {
+    box_.SetBackColor(kBack);
+  }
+  void Mark(HDC dc, COLORREF colour) {
+    RECT corner{0, 0, 4, 4};
+    HBRUSH brush = ::CreateSolidBrush(colour);
+    ::FillRect(dc, &corner, brush);
+    ::DeleteObject(brush);
+  }
+  COLORREF OnScreen(int x, int y) {
+    toolkit::DoEvents();
+    HDC dc = ::GetDC(box_.Hwnd());
+    COLORREF colour = ::GetPixel(dc, x, y);
+    ::ReleaseDC(box_.Hwnd(), dc);
+    return colour;
+  }
+  TestWindow host_;
+  PictureBox box_;
+};
+
+TEST_F(PictureBoxTest, PersistentDrawingGoesIntoTheImageAndReachesTheScreen) {
+  EXPECT_EQ(box_.ScaleWidth(), 32);
+  box_.SetAutoRedraw(true);
+  Mark(box_.hDC(), kRed);
+  box_.Refresh();
+  EXPECT_EQ(PicturePixel(box_.Image(), 0, 0), kRed);
+  EXPECT_EQ(PicturePixel(box_.Image(), 10, 10), kBack);
+  EXPECT_EQ(OnScreen(1, 1), kRed);
+  EXPECT_EQ(OnScreen(20, 20), kBack);
+}
+
+TEST_F(PictureBoxTest, DrawingWithoutPersistenceLeavesTheImageAlone) {
+  box_.SetAutoRedraw(false);
+  Mark(box_.hDC(), kRed);
+  EXPECT_EQ(PicturePixel(box_.Image(), 0, 0), kBack);
+}
+
+TEST_F(PictureBoxTest, ANewPictureErasesWhatWasDrawn) {
+  box_.SetAutoRedraw(true);
+  Mark(box_.hDC(), kRed);
+  box_.SetPicture(SolidPicture(8, 8, kGreen));
+  toolkit::Picture image = box_.Image();
+  EXPECT_EQ(PicturePixel(image, 0, 0), kGreen);
+  EXPECT_EQ(PicturePixel(image, 8, 8), kBack);
+
+  box_.SetPicture({});
+  EXPECT_EQ(PicturePixel(box_.Image(), 0, 0), kBack);
+}
+
+TEST_F(PictureBoxTest, ThePictureIsReleasedWhenReplaced) {
+  toolkit::Picture green = SolidPicture(8, 8, kGreen);
+  HANDLE handle = green.Handle();
+  box_.SetPicture(std::move(green));
+  EXPECT_NE(::GetObjectType(handle), 0u);
+  box_.SetPicture({});
+  EXPECT_EQ(::GetObjectType(handle), 0u);
+}
+
+TEST_F(PictureBoxTest, TakingTheImageAsPictureKeepsTheDrawing) {
+  box_.SetAutoRedraw(true);
+  Mark(box_.hDC(), kRed);
+  box_.SetPicture(box_.Image());
+  box_.SetAutoRedraw(false);
+  box_.Refresh();
+  EXPECT_EQ(OnScreen(1, 1), kRed);
+  EXPECT_EQ(PicturePixel(box_.GetPicture(), 1, 1), kRed);
+}
+
+}  // namespace
