@@ -37,6 +37,13 @@ start_wine_server() {
   wine cmd.exe /c exit >/dev/null 2>&1 </dev/null
 }
 
+# On a virtual display no window manager runs. Wine then waits 2 s for every
+# visible top-level window it destroys, unless it manages windows itself.
+unmanaged_windows() {
+  wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /t REG_SZ /d "$1" /f \
+    >/dev/null 2>&1 </dev/null
+}
+
 xvfb_pid=""
 # Starts a private X server for programs that need a display; sets DISPLAY.
 start_virtual_display() {

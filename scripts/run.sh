@@ -19,6 +19,9 @@ if [ -z "${DISPLAY:-}" ]; then
   headless=1
   start_virtual_display
   trap stop_virtual_display EXIT
+  unmanaged_windows N
+else
+  unmanaged_windows Y
 fi
 
 windows_path=$(winepath -w "$folder")

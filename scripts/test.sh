@@ -16,4 +16,5 @@ trap cleanup EXIT
 start_virtual_display
 # A persistent server makes each test process start in milliseconds.
 start_wine_server
+unmanaged_windows N
 ctest --test-dir "$build_dir" --output-on-failure "$@"
