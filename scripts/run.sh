@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Starts Morvane on a Linux folder: installs what is missing, builds, and runs
-# it under Wine. Without a display it runs on a virtual one and saves a
-# screenshot to morvane-screenshot.png.
+# it under Wine. Without a display it runs on a virtual one, saves a
+# screenshot to morvane-screenshot.png and ends.
 set -euo pipefail
 source "$(dirname "$0")/common.sh"
 
@@ -33,9 +33,19 @@ wine "$build_dir/dist/Morvane.exe" "${words[@]}" &
 morvane=$!
 
 if [ -n "$headless" ]; then
-  sleep "${MORVANE_SCREENSHOT_DELAY:-5}"
-  screenshot=${MORVANE_SCREENSHOT:-$PWD/morvane-screenshot.png}
-  /usr/bin/convert "x:root" "$screenshot" 2>/dev/null || xwd -root -silent | /usr/bin/convert xwd:- "$screenshot"
-  echo "Screenshot: $screenshot"
+  # Give the window time to open, then photograph the virtual screen.
+  for _ in $(seq "${MORVANE_SCREENSHOT_DELAY:-5}"); do
+    kill -0 "$morvane" 2>/dev/null || break
+    sleep 1
+  done
+  if kill -0 "$morvane" 2>/dev/null; then
+    screenshot=${MORVANE_SCREENSHOT:-$PWD/morvane-screenshot.png}
+    /usr/bin/import -window root "$screenshot"
+    echo "Screenshot: $screenshot"
+    # Nobody can use a window on a virtual display: end the run here.
+    kill "$morvane" 2>/dev/null || true
+  else
+    echo "Morvane ended before a window showed."
+  fi
 fi
-wait "$morvane"
+wait "$morvane" || true
