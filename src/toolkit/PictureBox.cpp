@@ -123,7 +123,9 @@ void PictureBox::SetVisible(bool visible) {
   if (Hwnd()) ::ShowWindow(Hwnd(), visible ? SW_SHOWNA : SW_HIDE);
 }
 
-bool PictureBox::Visible() const { return Hwnd() && ::IsWindowVisible(Hwnd()); }
+bool PictureBox::Visible() const {
+  return Hwnd() && ::IsWindowVisible(Hwnd());
+}
 
 void PictureBox::OnPaint() {
   PAINTSTRUCT paint;

@@ -4,7 +4,9 @@
 
 namespace toolkit {
 
-WindowBase::~WindowBase() { DestroyOwnWindow(); }
+WindowBase::~WindowBase() {
+  DestroyOwnWindow();
+}
 
 bool WindowBase::RegisterWindowClass(const char* className, ClassStyle classStyle) {
   WNDCLASSEXA existing{};
@@ -22,8 +24,8 @@ bool WindowBase::RegisterWindowClass(const char* className, ClassStyle classStyl
   return ::RegisterClassExA(&windowClass) != 0;
 }
 
-bool WindowBase::CreateWindowOf(const char* className, const char* text, DWORD style,
-                                DWORD exStyle, const RECT& pixels, HWND parent, int id) {
+bool WindowBase::CreateWindowOf(const char* className, const char* text, DWORD style, DWORD exStyle,
+                                const RECT& pixels, HWND parent, int id) {
   HMENU menuOrId = (style & WS_CHILD) ? reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)) : nullptr;
   ::CreateWindowExA(exStyle, className, text, style, pixels.left, pixels.top,
                     pixels.right - pixels.left, pixels.bottom - pixels.top, parent, menuOrId,

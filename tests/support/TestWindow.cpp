@@ -29,7 +29,8 @@ COLORREF BitmapPixel(HBITMAP bitmap, int x, int y) {
   request.bmiHeader.biCompression = BI_RGB;
   std::vector<DWORD> pixels(static_cast<size_t>(info.bmWidth) * info.bmHeight);
   HDC screen = ::GetDC(nullptr);
-  int lines = ::GetDIBits(screen, bitmap, 0, info.bmHeight, pixels.data(), &request, DIB_RGB_COLORS);
+  int lines =
+      ::GetDIBits(screen, bitmap, 0, info.bmHeight, pixels.data(), &request, DIB_RGB_COLORS);
   ::ReleaseDC(nullptr, screen);
   if (lines != info.bmHeight) return CLR_INVALID;
   DWORD bgr = pixels[static_cast<size_t>(y) * info.bmWidth + x];

@@ -1,0 +1,314 @@
+#include "toolkit/Form.h"
+
+#include <windowsx.h>
+
+#include "toolkit/Screen.h"
+
+namespace toolkit {
+namespace {
+
+constexpr char kFormClass[] = "MorvaneForm";
+
+int ButtonOf(UINT message) {
+  switch (message) {
+    case WM_RBUTTONDOWN:
+    case WM_RBUTTONUP:
+    case WM_RBUTTONDBLCLK: return MK_RBUTTON;
+    case WM_MBUTTONDOWN:
+    case WM_MBUTTONUP:
+    case WM_MBUTTONDBLCLK: return MK_MBUTTON;
+    default: return MK_LBUTTON;
+  }
+}
+
+bool Contains(const RECT& area, POINT point) {
+  return ::PtInRect(&area, point) != FALSE;
+}
+
+}  // namespace
+
+Form::Form(std::string name, int clientWidthTwips, int clientHeightTwips)
+    : Element(std::move(name), "Form"),
+      widthTwips_(clientWidthTwips),
+      heightTwips_(clientHeightTwips) {
+  RegisterWindowClass(kFormClass, {CS_DBLCLKS | CS_OWNDC, nullptr});
+}
+
+Form::~Form() {
+  DestroyElements();
+  DestroyOwnWindow();
+  UnregisterLoadedWindow(this);
+}
+
+RECT Form::ToPixels(const TwipsRect& twips) {
+  int left = Screen::TwipsToPixelsX(twips.left);
+  int top = Screen::TwipsToPixelsY(twips.top);
+  return RECT{left, top, left + Screen::TwipsToPixelsX(twips.width),
+              top + Screen::TwipsToPixelsY(twips.height)};
+}
+
+void Form::Load() {
+  if (Loaded()) return;
+  RECT pixels = ToPixels({0, 0, widthTwips_, heightTwips_});
+  if (!CreateWindowOf(kFormClass, Name().c_str(), WS_POPUP | WS_CLIPCHILDREN, 0, pixels, nullptr,
+                      0)) {
+    return;
+  }
+  AttachWindow(Hwnd());
+  RegisterLoadedWindow(this);
+  CreateElements();
+  for (const Timer& timer : timers_) ::SetTimer(Hwnd(), timer.id, timer.interval, nullptr);
+  OnLoad();
+}
+
+void Form::Show() {
+  Load();
+  if (Loaded()) ::ShowWindow(Hwnd(), SW_SHOW);
+}
+
+void Form::Hide() {
+  if (Loaded()) ::ShowWindow(Hwnd(), SW_HIDE);
+}
+
+bool Form::Visible() const {
+  return Loaded() && ::IsWindowVisible(Hwnd());
+}
+
+void Form::ShowModal() {
+  Load();
+  if (!Loaded()) return;
+  // The other windows of the program wait until this one is done.
+  std::vector<HWND> disabled;
+  ::EnumThreadWindows(
+      ::GetCurrentThreadId(),
+      [](HWND window, LPARAM data) -> BOOL {
+        if (::IsWindowVisible(window) && ::IsWindowEnabled(window)) {
+          reinterpret_cast<std::vector<HWND>*>(data)->push_back(window);
+        }
+        return TRUE;
+      },
+      reinterpret_cast<LPARAM>(&disabled));
+  for (HWND window : disabled) ::EnableWindow(window, FALSE);
+  Show();
+
+  MSG message;
+  while (Visible()) {
+    BOOL got = ::GetMessageA(&message, nullptr, 0, 0);
+    if (got <= 0) {
+      if (got == 0) ::PostQuitMessage(static_cast<int>(message.wParam));
+      break;
+    }
+    ::TranslateMessage(&message);
+    ::DispatchMessageA(&message);
+  }
+  for (HWND window : disabled) {
+    if (::IsWindow(window)) ::EnableWindow(window, TRUE);
+  }
+}
+
+void Form::Unload(UnloadMode mode) {
+  if (!Loaded() || closing_) return;
+  std::int16_t cancel = 0;
+  OnQueryUnload(cancel, mode);
+  if (cancel != 0) return;
+  closing_ = true;
+  OnUnload();
+  for (const Timer& timer : timers_) ::KillTimer(Hwnd(), timer.id);
+  DestroyElements();
+  DestroyOwnWindow();
+  UnregisterLoadedWindow(this);
+  closing_ = false;
+}
+
+void Form::DestroyElements() {
+  labels_.clear();
+  lines_.clear();
+  timers_.clear();
+  pressedLabel_ = nullptr;
+  elements_.clear();
+}
+
+int Form::Left() const {
+  RECT outer{};
+  if (Loaded()) ::GetWindowRect(Hwnd(), &outer);
+  return Screen::PixelsToTwipsX(outer.left);
+}
+
+int Form::Top() const {
+  RECT outer{};
+  if (Loaded()) ::GetWindowRect(Hwnd(), &outer);
+  return Screen::PixelsToTwipsY(outer.top);
+}
+
+void Form::Move(int left, int top) {
+  if (!Loaded()) return;
+  ::SetWindowPos(Hwnd(), nullptr, Screen::TwipsToPixelsX(left), Screen::TwipsToPixelsY(top), 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void Form::Resize(int width, int height) {
+  widthTwips_ = width;
+  heightTwips_ = height;
+  if (!Loaded()) return;
+  ::SetWindowPos(Hwnd(), nullptr, 0, 0, Screen::TwipsToPixelsX(width),
+                 Screen::TwipsToPixelsY(height), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+int Form::ScaleX(int pixels) const {
+  return scaleMode_ == ScaleMode::kTwips ? Screen::PixelsToTwipsX(pixels) : pixels;
+}
+
+int Form::ScaleY(int pixels) const {
+  return scaleMode_ == ScaleMode::kTwips ? Screen::PixelsToTwipsY(pixels) : pixels;
+}
+
+ElementList Form::Elements() const {
+  ElementList list;
+  for (const auto& element : elements_) list.push_back(element.get());
+  return list;
+}
+
+Element* Form::Find(const std::string& name, int index) const {
+  for (const auto& element : elements_) {
+    if (element->Name() != name) continue;
+    auto* label = dynamic_cast<Label*>(element.get());
+    if (!label || label->Index() == index) return element.get();
+  }
+  return nullptr;
+}
+
+template <typename T>
+T& Form::Keep(std::unique_ptr<T> element) {
+  T& kept = *element;
+  elements_.push_back(std::move(element));
+  return kept;
+}
+
+Label& Form::AddLabel(const std::string& name, int index, const TwipsRect& twips) {
+  Label& label = Keep(std::make_unique<Label>(name, index, ToPixels(twips)));
+  label.invalidate = [this](const RECT& pixels) { Invalidate(pixels); };
+  labels_.push_back(&label);
+  return label;
+}
+
+PictureBox& Form::AddPictureBox(const std::string& name, const TwipsRect& twips, int id) {
+  return Keep(std::make_unique<PictureBox>(name, Hwnd(), ToPixels(twips), id));
+}
+
+Line& Form::AddLine(const std::string& name, POINT fromTwips, POINT toTwips) {
+  Line& line = Keep(std::make_unique<Line>(name, fromTwips, toTwips));
+  lines_.push_back(&line);
+  return line;
+}
+
+void Form::AddTimer(int id, UINT intervalMs, std::function<void()> onTick) {
+  timers_.push_back({id, intervalMs, std::move(onTick)});
+  if (Loaded()) ::SetTimer(Hwnd(), id, intervalMs, nullptr);
+}
+
+void Form::Invalidate(const RECT& pixels) const {
+  if (Loaded()) ::InvalidateRect(Hwnd(), &pixels, TRUE);
+}
+
+Label* Form::LabelAt(POINT pixels) const {
+  // The label drawn last is in front.
+  for (auto it = labels_.rbegin(); it != labels_.rend(); ++it) {
+    if ((*it)->Visible() && Contains((*it)->Bounds(), pixels)) return *it;
+  }
+  return nullptr;
+}
+
+void Form::OnPaintMessage() {
+  PAINTSTRUCT paint;
+  HDC dc = ::BeginPaint(Hwnd(), &paint);
+  OnPaint(dc);
+  for (const Line* line : lines_) {
+    HPEN pen = ::CreatePen(PS_SOLID, 1, line->Colour());
+    HGDIOBJ old = ::SelectObject(dc, pen);
+    ::MoveToEx(dc, Screen::TwipsToPixelsX(line->From().x), Screen::TwipsToPixelsY(line->From().y),
+               nullptr);
+    ::LineTo(dc, Screen::TwipsToPixelsX(line->To().x), Screen::TwipsToPixelsY(line->To().y));
+    ::SelectObject(dc, old);
+    ::DeleteObject(pen);
+  }
+  for (const Label* label : labels_) label->Draw(dc);
+  ::EndPaint(Hwnd(), &paint);
+}
+
+void Form::OnMouseMessage(UINT message, WPARAM, LPARAM lParam) {
+  POINT at{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+  Label* label = LabelAt(at);
+  MouseEvent onForm{ButtonOf(message), ScaleX(at.x), ScaleY(at.y)};
+  MouseEvent onLabel = onForm;
+  if (label) onLabel = {onForm.button, at.x - label->Bounds().left, at.y - label->Bounds().top};
+
+  switch (message) {
+    case WM_MOUSEMOVE:
+      if (label && label->onMouseMove) {
+        label->onMouseMove(onLabel);
+      } else if (!label) {
+        OnMouseMove(onForm);
+      }
+      return;
+    case WM_LBUTTONDBLCLK:
+      if (label) {
+        if (label->onDblClick) label->onDblClick();
+      } else {
+        OnDblClick();
+      }
+      return;
+    case WM_LBUTTONDOWN:
+    case WM_RBUTTONDOWN:
+    case WM_MBUTTONDOWN:
+    case WM_RBUTTONDBLCLK:
+    case WM_MBUTTONDBLCLK:
+      if (message == WM_LBUTTONDOWN) {
+        pressedLabel_ = label;
+        pressedForm_ = label == nullptr;
+      }
+      if (label) {
+        if (label->onMouseDown) label->onMouseDown(onLabel);
+      } else {
+        OnMouseDown(onForm);
+      }
+      return;
+    default:  // a button went up
+      if (!label) OnMouseUp(onForm);
+      if (message == WM_LBUTTONUP) {
+        // A click is a press and a release of the left button on the same thing.
+        if (label && label == pressedLabel_ && label->onClick) label->onClick();
+        if (!label && pressedForm_) OnClick();
+        pressedLabel_ = nullptr;
+        pressedForm_ = false;
+      }
+      return;
+  }
+}
+
+LRESULT Form::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_PAINT: OnPaintMessage(); return 0;
+    case WM_CLOSE: Unload(kUnloadFromWindow); return 0;
+    case WM_ACTIVATE:
+      if (LOWORD(wParam) != WA_INACTIVE) OnActivate();
+      return 0;
+    case WM_TIMER:
+      for (const Timer& timer : timers_) {
+        if (static_cast<WPARAM>(timer.id) == wParam && timer.onTick) timer.onTick();
+      }
+      return 0;
+    case WM_MOUSEMOVE:
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONUP:
+    case WM_LBUTTONDBLCLK:
+    case WM_RBUTTONDOWN:
+    case WM_RBUTTONUP:
+    case WM_RBUTTONDBLCLK:
+    case WM_MBUTTONDOWN:
+    case WM_MBUTTONUP:
+    case WM_MBUTTONDBLCLK: OnMouseMessage(message, wParam, lParam); return 0;
+    default: return Default(message, wParam, lParam);
+  }
+}
+
+}  // namespace toolkit

@@ -1,0 +1,143 @@
+// A top-level window of the program, laid out as a form designer lays one
+// out: elements placed in twips, events as overridable handlers. The windows
+// are borderless (the program draws its own skin). A form is loaded (window
+// and elements created, hidden, OnLoad run), shown, and unloaded (close
+// request, OnUnload, window destroyed); it is in the program's collection of
+// loaded windows meanwhile.
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "toolkit/Element.h"
+#include "toolkit/Label.h"
+#include "toolkit/LoadedWindows.h"
+#include "toolkit/PictureBox.h"
+#include "toolkit/WindowBase.h"
+
+namespace toolkit {
+
+enum class ScaleMode { kTwips = 1, kPixels = 3 };
+
+// Why a form is being unloaded.
+enum UnloadMode : int { kUnloadFromWindow = 0, kUnloadFromCode = 1 };
+
+// Position and size of an element as designed, in twips.
+struct TwipsRect {
+  int left;
+  int top;
+  int width;
+  int height;
+};
+
+// A line drawn by the form between two points given in twips.
+class Line : public Element {
+ public:
+  Line(std::string name, POINT from, POINT to)
+      : Element(std::move(name), "Line", FontSupport::kNoFont), from_(from), to_(to) {}
+  POINT From() const { return from_; }
+  POINT To() const { return to_; }
+  COLORREF Colour() const { return colour_; }
+  void SetColour(COLORREF colour) { colour_ = colour; }
+
+ private:
+  POINT from_, to_;
+  COLORREF colour_ = RGB(0, 0, 0);
+};
+
+class Form : public Element, private WindowBase, public LoadedWindow, public ElementOwner {
+ public:
+  Form(std::string name, int clientWidthTwips, int clientHeightTwips);
+  ~Form() override;
+
+  using WindowBase::Hwnd;
+
+  void Load();
+  bool Loaded() const { return Hwnd() != nullptr; }
+  void Show();
+  // Shows the form and returns once it is hidden or unloaded; the program's
+  // other windows take no input meanwhile.
+  void ShowModal();
+  void Hide();
+  bool Visible() const;
+  void Unload() override { Unload(kUnloadFromCode); }
+  void Unload(UnloadMode mode);
+  bool Closing() const override { return closing_; }
+
+  // Screen position and outer size, in twips.
+  int Left() const;
+  int Top() const;
+  int Width() const { return widthTwips_; }
+  int Height() const { return heightTwips_; }
+  void Move(int left, int top);
+  void Resize(int width, int height);
+
+  ScaleMode Scale() const { return scaleMode_; }
+  void SetScaleMode(ScaleMode mode) { scaleMode_ = mode; }
+  // Pixels, converted to the form's own unit.
+  int ScaleX(int pixels) const;
+  int ScaleY(int pixels) const;
+
+  // Pixel rectangle of a design rectangle in twips.
+  static RECT ToPixels(const TwipsRect& twips);
+
+  ElementList Elements() const override;
+  Element* Find(const std::string& name, int index = -1) const;
+
+ protected:
+  // Called by Load, before OnLoad: create the form's elements here.
+  virtual void CreateElements() {}
+  virtual void OnLoad() {}
+  // Set cancel non-zero to refuse the close.
+  virtual void OnQueryUnload(std::int16_t& /*cancel*/, UnloadMode /*mode*/) {}
+  virtual void OnUnload() {}
+  virtual void OnPaint(HDC /*dc*/) {}
+  virtual void OnMouseDown(const MouseEvent& /*event*/) {}
+  virtual void OnMouseMove(const MouseEvent& /*event*/) {}
+  virtual void OnMouseUp(const MouseEvent& /*event*/) {}
+  virtual void OnClick() {}
+  virtual void OnDblClick() {}
+  virtual void OnActivate() {}
+
+  Label& AddLabel(const std::string& name, int index, const TwipsRect& twips);
+  PictureBox& AddPictureBox(const std::string& name, const TwipsRect& twips, int id);
+  Line& AddLine(const std::string& name, POINT fromTwips, POINT toTwips);
+
+  // A timer of this form: `onTick` runs every `intervalMs` while it is loaded.
+  void AddTimer(int id, UINT intervalMs, std::function<void()> onTick);
+
+  LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+ private:
+  struct Timer {
+    int id;
+    UINT interval;
+    std::function<void()> onTick;
+  };
+
+  template <typename T>
+  T& Keep(std::unique_ptr<T> element);
+  void DestroyElements();
+  void OnPaintMessage();
+  void OnMouseMessage(UINT message, WPARAM wParam, LPARAM lParam);
+  Label* LabelAt(POINT pixels) const;
+  void Invalidate(const RECT& pixels) const;
+
+  int widthTwips_;
+  int heightTwips_;
+  ScaleMode scaleMode_ = ScaleMode::kTwips;
+  bool closing_ = false;
+  std::vector<std::unique_ptr<Element>> elements_;
+  std::vector<Label*> labels_;
+  std::vector<Line*> lines_;
+  std::vector<Timer> timers_;
+  Label* pressedLabel_ = nullptr;
+  bool pressedForm_ = false;
+};
+
+}  // namespace toolkit

@@ -1,0 +1,57 @@
+// A label without a window of its own: the form draws its caption over the
+// form's background (so the background shows through) and routes the mouse
+// events over its rectangle to it.
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <string>
+
+#include "toolkit/Element.h"
+
+namespace toolkit {
+
+struct MouseEvent {
+  int button;  // MK_LBUTTON, MK_RBUTTON or MK_MBUTTON
+  int x;       // pixels, relative to the element
+  int y;
+};
+
+class Label : public Element {
+ public:
+  Label(std::string name, int index, const RECT& pixels);
+
+  int Index() const { return index_; }  // -1 outside a pair
+  const std::string& Caption() const { return caption_; }
+  void SetCaption(std::string caption);
+  COLORREF ForeColor() const { return foreColor_; }
+  void SetForeColor(COLORREF colour);
+  bool Visible() const { return visible_; }
+  void SetVisible(bool visible);
+  // Position and size in the form's client area, pixels.
+  const RECT& Bounds() const { return bounds_; }
+  void SetBounds(const RECT& pixels);
+
+  // Draws the caption, word-wrapped inside the bounds, without a background.
+  void Draw(HDC dc) const;
+
+  // Set by the form so that a change shows at once.
+  std::function<void(const RECT&)> invalidate;
+
+  std::function<void(const MouseEvent&)> onMouseDown;
+  std::function<void(const MouseEvent&)> onMouseMove;
+  std::function<void()> onClick;
+  std::function<void()> onDblClick;
+
+ private:
+  void Invalidate() const;
+
+  int index_;
+  RECT bounds_;
+  std::string caption_;
+  COLORREF foreColor_ = RGB(0, 0, 0);
+  bool visible_ = true;
+};
+
+}  // namespace toolkit
