@@ -1,5 +1,6 @@
 #include "toolkit/Form.h"
 
+#include <commctrl.h>
 #include <windowsx.h>
 
 #include "toolkit/Screen.h"
@@ -25,12 +26,22 @@ bool Contains(const RECT& area, POINT point) {
   return ::PtInRect(&area, point) != FALSE;
 }
 
+void InitCommonControlsOnce() {
+  static const bool done = [] {
+    INITCOMMONCONTROLSEX classes{sizeof(INITCOMMONCONTROLSEX),
+                                 ICC_LISTVIEW_CLASSES | ICC_BAR_CLASSES | ICC_STANDARD_CLASSES};
+    return ::InitCommonControlsEx(&classes) != FALSE;
+  }();
+  (void)done;
+}
+
 }  // namespace
 
 Form::Form(std::string name, int clientWidthTwips, int clientHeightTwips)
     : Element(std::move(name), "Form"),
       widthTwips_(clientWidthTwips),
       heightTwips_(clientHeightTwips) {
+  InitCommonControlsOnce();
   RegisterWindowClass(kFormClass, {CS_DBLCLKS | CS_OWNDC, nullptr});
 }
 
@@ -121,6 +132,8 @@ void Form::Unload(UnloadMode mode) {
 }
 
 void Form::DestroyElements() {
+  tips_.reset();
+  controls_.clear();
   labels_.clear();
   lines_.clear();
   timers_.clear();
@@ -199,6 +212,42 @@ Line& Form::AddLine(const std::string& name, POINT fromTwips, POINT toTwips) {
   Line& line = Keep(std::make_unique<Line>(name, fromTwips, toTwips));
   lines_.push_back(&line);
   return line;
+}
+
+TextBox& Form::AddTextBox(const std::string& name, const TwipsRect& twips, int id,
+                          TextBox::Lines lines) {
+  TextBox& box = Keep(std::make_unique<TextBox>(name, Hwnd(), ToPixels(twips), id, lines));
+  controls_.push_back(&box);
+  return box;
+}
+
+ComboBox& Form::AddComboBox(const std::string& name, const TwipsRect& twips, int id,
+                            int dropLines) {
+  ComboBox& box = Keep(std::make_unique<ComboBox>(name, Hwnd(), ToPixels(twips), id, dropLines));
+  controls_.push_back(&box);
+  return box;
+}
+
+ListView& Form::AddListView(const std::string& name, const TwipsRect& twips, int id) {
+  ListView& list = Keep(std::make_unique<ListView>(name, Hwnd(), ToPixels(twips), id));
+  controls_.push_back(&list);
+  return list;
+}
+
+ImageList& Form::AddImageList(const std::string& name, int width, int height) {
+  return Keep(std::make_unique<ImageList>(name, width, height));
+}
+
+ToolTips& Form::Tips() {
+  if (!tips_) tips_ = std::make_unique<ToolTips>(Hwnd());
+  return *tips_;
+}
+
+Control* Form::ControlOf(HWND window) const {
+  for (Control* control : controls_) {
+    if (control->Hwnd() == window) return control;
+  }
+  return nullptr;
 }
 
 void Form::AddTimer(int id, UINT intervalMs, std::function<void()> onTick) {
@@ -297,6 +346,16 @@ LRESULT Form::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         if (static_cast<WPARAM>(timer.id) == wParam && timer.onTick) timer.onTick();
       }
       return 0;
+    case WM_COMMAND:
+      if (Control* control = ControlOf(reinterpret_cast<HWND>(lParam))) {
+        control->OnCommand(HIWORD(wParam));
+      }
+      return 0;
+    case WM_NOTIFY: {
+      auto* header = reinterpret_cast<NMHDR*>(lParam);
+      Control* control = ControlOf(header->hwndFrom);
+      return control ? control->OnNotify(*header) : 0;
+    }
     case WM_MOUSEMOVE:
     case WM_LBUTTONDOWN:
     case WM_LBUTTONUP:

@@ -14,10 +14,15 @@
 #include <string>
 #include <vector>
 
+#include "toolkit/ComboBox.h"
 #include "toolkit/Element.h"
+#include "toolkit/ImageList.h"
 #include "toolkit/Label.h"
+#include "toolkit/ListView.h"
 #include "toolkit/LoadedWindows.h"
 #include "toolkit/PictureBox.h"
+#include "toolkit/TextBox.h"
+#include "toolkit/ToolTips.h"
 #include "toolkit/WindowBase.h"
 
 namespace toolkit {
@@ -87,6 +92,8 @@ class Form : public Element, private WindowBase, public LoadedWindow, public Ele
   static RECT ToPixels(const TwipsRect& twips);
 
   ElementList Elements() const override;
+  // The form's tool tips, created with the first use.
+  ToolTips& Tips();
   Element* Find(const std::string& name, int index = -1) const;
 
  protected:
@@ -107,6 +114,11 @@ class Form : public Element, private WindowBase, public LoadedWindow, public Ele
   Label& AddLabel(const std::string& name, int index, const TwipsRect& twips);
   PictureBox& AddPictureBox(const std::string& name, const TwipsRect& twips, int id);
   Line& AddLine(const std::string& name, POINT fromTwips, POINT toTwips);
+  TextBox& AddTextBox(const std::string& name, const TwipsRect& twips, int id,
+                      TextBox::Lines lines);
+  ComboBox& AddComboBox(const std::string& name, const TwipsRect& twips, int id, int dropLines);
+  ListView& AddListView(const std::string& name, const TwipsRect& twips, int id);
+  ImageList& AddImageList(const std::string& name, int width, int height);
 
   // A timer of this form: `onTick` runs every `intervalMs` while it is loaded.
   void AddTimer(int id, UINT intervalMs, std::function<void()> onTick);
@@ -126,6 +138,7 @@ class Form : public Element, private WindowBase, public LoadedWindow, public Ele
   void OnPaintMessage();
   void OnMouseMessage(UINT message, WPARAM wParam, LPARAM lParam);
   Label* LabelAt(POINT pixels) const;
+  Control* ControlOf(HWND window) const;
   void Invalidate(const RECT& pixels) const;
 
   int widthTwips_;
@@ -136,6 +149,8 @@ class Form : public Element, private WindowBase, public LoadedWindow, public Ele
   std::vector<Label*> labels_;
   std::vector<Line*> lines_;
   std::vector<Timer> timers_;
+  std::vector<Control*> controls_;
+  std::unique_ptr<ToolTips> tips_;
   Label* pressedLabel_ = nullptr;
   bool pressedForm_ = false;
 };

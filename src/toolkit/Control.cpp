@@ -1,0 +1,64 @@
+#include "toolkit/Control.h"
+
+#include <commctrl.h>
+#include <windowsx.h>
+
+namespace toolkit {
+namespace {
+constexpr UINT_PTR kSubclassId = 1;
+}
+
+Control::Control(std::string name, std::string kind, const char* className, DWORD style,
+                 DWORD exStyle, HWND parent, const RECT& pixels, int id)
+    : Element(std::move(name), std::move(kind)), id_(id) {
+  HWND window = ::CreateWindowExA(
+      exStyle, className, "", style | WS_CHILD | WS_VISIBLE, pixels.left, pixels.top,
+      pixels.right - pixels.left, pixels.bottom - pixels.top, parent,
+      reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), ::GetModuleHandleA(nullptr), nullptr);
+  if (!window) return;
+  // Screen readers and tests find the control by its name.
+  ::SetWindowTextA(window, Name().c_str());
+  ::SetWindowSubclass(window, &Control::Subclass, kSubclassId, reinterpret_cast<DWORD_PTR>(this));
+  AttachWindow(window);
+}
+
+Control::~Control() {
+  if (Hwnd()) {
+    ::RemoveWindowSubclass(Hwnd(), &Control::Subclass, kSubclassId);
+    ::DestroyWindow(Hwnd());
+  }
+}
+
+RECT Control::Bounds() const {
+  RECT bounds{};
+  if (!Hwnd()) return bounds;
+  ::GetWindowRect(Hwnd(), &bounds);
+  ::MapWindowPoints(nullptr, ::GetParent(Hwnd()), reinterpret_cast<POINT*>(&bounds), 2);
+  return bounds;
+}
+
+bool Control::Visible() const {
+  return Hwnd() && ::IsWindowVisible(Hwnd());
+}
+
+void Control::SetVisible(bool visible) {
+  if (Hwnd()) ::ShowWindow(Hwnd(), visible ? SW_SHOWNA : SW_HIDE);
+}
+
+LRESULT CALLBACK Control::Subclass(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
+                                   UINT_PTR, DWORD_PTR self) noexcept {
+  auto* control = reinterpret_cast<Control*>(self);
+  try {
+    LRESULT result = 0;
+    if (control->PreviewMessage(message, wParam, lParam, result)) return result;
+    if (message == WM_MOUSEMOVE && control->onMouseMove) {
+      int button = (wParam & MK_LBUTTON) ? MK_LBUTTON : (wParam & MK_RBUTTON) ? MK_RBUTTON : 0;
+      control->onMouseMove({button, GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
+    }
+  } catch (...) {
+    // A failing handler is stepped over; the control goes on as usual.
+  }
+  return ::DefSubclassProc(window, message, wParam, lParam);
+}
+
+}  // namespace toolkit

@@ -1,0 +1,49 @@
+// An element that is one of the system's own controls (edit, combo box, list
+// view) living as a child window of a form. The control is subclassed so
+// that its mouse moves reach the program, and the form hands it the
+// notifications the control sends to its parent.
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <string>
+
+#include "toolkit/Element.h"
+#include "toolkit/Label.h"
+
+namespace toolkit {
+
+class Control : public Element {
+ public:
+  ~Control() override;
+
+  HWND Hwnd() const { return Window(); }
+  int Id() const { return id_; }
+  // Position and size in the parent's client area, pixels.
+  RECT Bounds() const;
+  bool Visible() const;
+  void SetVisible(bool visible);
+
+  // WM_COMMAND and WM_NOTIFY from this control, as the parent received them.
+  virtual void OnCommand(WORD /*code*/) {}
+  virtual LRESULT OnNotify(NMHDR& /*header*/) { return 0; }
+
+  std::function<void(const MouseEvent&)> onMouseMove;
+
+ protected:
+  Control(std::string name, std::string kind, const char* className, DWORD style, DWORD exStyle,
+          HWND parent, const RECT& pixels, int id);
+  // Messages to the control itself, before the control's own procedure.
+  virtual bool PreviewMessage(UINT /*message*/, WPARAM /*wParam*/, LPARAM /*lParam*/,
+                              LRESULT& /*result*/) {
+    return false;
+  }
+
+ private:
+  static LRESULT CALLBACK Subclass(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
+                                   UINT_PTR id, DWORD_PTR self) noexcept;
+  int id_;
+};
+
+}  // namespace toolkit

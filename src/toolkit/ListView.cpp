@@ -1,0 +1,77 @@
+#include "toolkit/ListView.h"
+
+namespace toolkit {
+
+ListView::ListView(std::string name, HWND parent, const RECT& pixels, int id)
+    : Control(std::move(name), "ListView", WC_LISTVIEWA,
+              WS_TABSTOP | LVS_ICON | LVS_SINGLESEL | LVS_SHAREIMAGELISTS | LVS_AUTOARRANGE |
+                  LVS_ALIGNTOP,
+              0, parent, pixels, id) {}
+
+void ListView::SetIcons(const ImageList* large) {
+  large_ = large;
+  ::SendMessageA(Hwnd(), LVM_SETIMAGELIST, LVSIL_NORMAL,
+                 reinterpret_cast<LPARAM>(large ? large->Handle() : nullptr));
+}
+
+void ListView::SetSmallIcons(const ImageList* small) {
+  ::SendMessageA(Hwnd(), LVM_SETIMAGELIST, LVSIL_SMALL,
+                 reinterpret_cast<LPARAM>(small ? small->Handle() : nullptr));
+}
+
+void ListView::ArrangeFromTop() {
+  LONG_PTR style = ::GetWindowLongPtrA(Hwnd(), GWL_STYLE);
+  style = (style & ~static_cast<LONG_PTR>(LVS_ALIGNMASK)) | LVS_ALIGNTOP | LVS_AUTOARRANGE;
+  ::SetWindowLongPtrA(Hwnd(), GWL_STYLE, style);
+}
+
+COLORREF ListView::BackColor() const {
+  return static_cast<COLORREF>(::SendMessageA(Hwnd(), LVM_GETBKCOLOR, 0, 0));
+}
+
+void ListView::AddItem(const std::string& key, const std::string& text, int icon) {
+  if (!large_ || icon < 1 || icon > large_->Count()) throw ElementError("Invalid picture");
+  if (keys_.count(key)) throw ElementError("Key is not unique in collection");
+  LVITEMA item{};
+  item.mask = LVIF_TEXT | LVIF_IMAGE;
+  item.iItem = Count();
+  item.pszText = const_cast<char*>(text.c_str());
+  item.iImage = icon - 1;
+  LRESULT at = ::SendMessageA(Hwnd(), LVM_INSERTITEMA, 0, reinterpret_cast<LPARAM>(&item));
+  if (at < 0) throw ElementError("The list refused the item");
+  keys_[key] = static_cast<int>(at) + 1;
+}
+
+void ListView::Clear() {
+  ::SendMessageA(Hwnd(), LVM_DELETEALLITEMS, 0, 0);
+  keys_.clear();
+}
+
+int ListView::Count() const {
+  return static_cast<int>(::SendMessageA(Hwnd(), LVM_GETITEMCOUNT, 0, 0));
+}
+
+int ListView::SelectedIndex() const {
+  LRESULT at = ::SendMessageA(Hwnd(), LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED);
+  return at < 0 ? 0 : static_cast<int>(at) + 1;
+}
+
+void ListView::Select(int index) {
+  LVITEMA state{};
+  state.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
+  state.state = LVIS_SELECTED | LVIS_FOCUSED;
+  ::SendMessageA(Hwnd(), LVM_SETITEMSTATE, static_cast<WPARAM>(index - 1),
+                 reinterpret_cast<LPARAM>(&state));
+}
+
+LRESULT ListView::OnNotify(NMHDR& header) {
+  if (header.code == NM_CLICK) {
+    int item = reinterpret_cast<NMITEMACTIVATE&>(header).iItem;
+    if (item >= 0 && onItemClick) onItemClick(item + 1);
+  } else if (header.code == NM_DBLCLK && onDblClick) {
+    onDblClick();
+  }
+  return 0;
+}
+
+}  // namespace toolkit
