@@ -29,14 +29,6 @@ Control::~Control() {
   }
 }
 
-RECT Control::Bounds() const {
-  RECT bounds{};
-  if (!Hwnd()) return bounds;
-  ::GetWindowRect(Hwnd(), &bounds);
-  ::MapWindowPoints(nullptr, ::GetParent(Hwnd()), reinterpret_cast<POINT*>(&bounds), 2);
-  return bounds;
-}
-
 bool Control::Visible() const {
   return Hwnd() && ::IsWindowVisible(Hwnd());
 }

@@ -20,8 +20,6 @@ class Control : public Element {
 
   HWND Hwnd() const { return Window(); }
   int Id() const { return id_; }
-  // Position and size in the parent's client area, pixels.
-  RECT Bounds() const;
   bool Visible() const;
   void SetVisible(bool visible);
 

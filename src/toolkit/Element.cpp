@@ -89,6 +89,14 @@ void Element::SetFontBold(bool bold) {
   RebuildFont();
 }
 
+RECT Element::Bounds() const {
+  RECT bounds{};
+  if (!window_) return bounds;
+  ::GetWindowRect(window_, &bounds);
+  ::MapWindowPoints(nullptr, ::GetParent(window_), reinterpret_cast<POINT*>(&bounds), 2);
+  return bounds;
+}
+
 void Element::AttachWindow(HWND window) {
   window_ = window;
   if (window_ && font_)

@@ -14,6 +14,8 @@
 
 namespace toolkit {
 
+class Canvas;
+
 class ElementError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
@@ -48,6 +50,12 @@ class Element {
 
   HWND Window() const { return window_; }
 
+  // Position and size in the parent's client area, pixels.
+  virtual RECT Bounds() const;
+  // The form (or surface) the element sits on; nullptr for none.
+  Canvas* Parent() const { return parent_; }
+  void SetParent(Canvas* parent) { parent_ = parent; }
+
  protected:
   // The element's own window, if it has one, gets the font with WM_SETFONT.
   void AttachWindow(HWND window);
@@ -65,6 +73,7 @@ class Element {
   bool bold_ = false;
   ScopedFont font_;
   HWND window_ = nullptr;
+  Canvas* parent_ = nullptr;
 };
 
 using ElementList = std::vector<Element*>;

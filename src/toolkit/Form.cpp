@@ -168,12 +168,18 @@ void Form::Resize(int width, int height) {
 }
 
 int Form::ScaleX(int pixels) const {
-  return scaleMode_ == ScaleMode::kTwips ? Screen::PixelsToTwipsX(pixels) : pixels;
+  double per = UnitsPerPixelX();
+  return per > 0 ? static_cast<int>(pixels * per) : pixels;
 }
 
 int Form::ScaleY(int pixels) const {
-  return scaleMode_ == ScaleMode::kTwips ? Screen::PixelsToTwipsY(pixels) : pixels;
+  double per = UnitsPerPixelY();
+  return per > 0 ? static_cast<int>(pixels * per) : pixels;
 }
+
+HDC Form::hDC() const {
+  return Loaded() ? ::GetDC(Hwnd()) : nullptr;
+}  // CS_OWNDC
 
 ElementList Form::Elements() const {
   ElementList list;
@@ -193,6 +199,7 @@ Element* Form::Find(const std::string& name, int index) const {
 template <typename T>
 T& Form::Keep(std::unique_ptr<T> element) {
   T& kept = *element;
+  kept.SetParent(this);
   elements_.push_back(std::move(element));
   return kept;
 }

@@ -14,6 +14,7 @@
 #include <string>
 #include <vector>
 
+#include "toolkit/Canvas.h"
 #include "toolkit/ComboBox.h"
 #include "toolkit/Element.h"
 #include "toolkit/ImageList.h"
@@ -26,8 +27,6 @@
 #include "toolkit/WindowBase.h"
 
 namespace toolkit {
-
-enum class ScaleMode { kTwips = 1, kPixels = 3 };
 
 // Why a form is being unloaded.
 enum UnloadMode : int { kUnloadFromWindow = 0, kUnloadFromCode = 1 };
@@ -55,7 +54,11 @@ class Line : public Element {
   COLORREF colour_ = RGB(0, 0, 0);
 };
 
-class Form : public Element, private WindowBase, public LoadedWindow, public ElementOwner {
+class Form : public Element,
+             public Canvas,
+             private WindowBase,
+             public LoadedWindow,
+             public ElementOwner {
  public:
   Form(std::string name, int clientWidthTwips, int clientHeightTwips);
   ~Form() override;
@@ -82,8 +85,11 @@ class Form : public Element, private WindowBase, public LoadedWindow, public Ele
   void Move(int left, int top);
   void Resize(int width, int height);
 
-  ScaleMode Scale() const { return scaleMode_; }
-  void SetScaleMode(ScaleMode mode) { scaleMode_ = mode; }
+  ScaleMode Scale() const override { return scaleMode_; }
+  void SetScaleMode(ScaleMode mode) override { scaleMode_ = mode; }
+  HDC hDC() const override;  // the form's own drawing context
+  int DrawWidth() const override { return drawWidth_; }
+  void SetDrawWidth(int pixels) override { drawWidth_ = pixels; }
   // Pixels, converted to the form's own unit.
   int ScaleX(int pixels) const;
   int ScaleY(int pixels) const;
@@ -144,6 +150,7 @@ class Form : public Element, private WindowBase, public LoadedWindow, public Ele
   int widthTwips_;
   int heightTwips_;
   ScaleMode scaleMode_ = ScaleMode::kTwips;
+  int drawWidth_ = 1;
   bool closing_ = false;
   std::vector<std::unique_ptr<Element>> elements_;
   std::vector<Label*> labels_;

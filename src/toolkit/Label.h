@@ -30,7 +30,7 @@ class Label : public Element {
   bool Visible() const { return visible_; }
   void SetVisible(bool visible);
   // Position and size in the form's client area, pixels.
-  const RECT& Bounds() const { return bounds_; }
+  RECT Bounds() const override { return bounds_; }
   void SetBounds(const RECT& pixels);
 
   // Draws the caption, word-wrapped inside the bounds, without a background.

@@ -10,6 +10,7 @@
 #include <functional>
 #include <string>
 
+#include "toolkit/Canvas.h"
 #include "toolkit/Element.h"
 #include "toolkit/Picture.h"
 #include "toolkit/ScopedHandle.h"
@@ -17,7 +18,7 @@
 
 namespace toolkit {
 
-class PictureBox : public Element, private WindowBase {
+class PictureBox : public Element, public Canvas, private WindowBase {
  public:
   // `pixels`: position and size in the parent's client area.
   PictureBox(std::string name, HWND parent, const RECT& pixels, int id);
@@ -33,7 +34,13 @@ class PictureBox : public Element, private WindowBase {
 
   // Where drawing goes now: the persistent image while AutoRedraw is on,
   // else the window itself.
-  HDC hDC() const;
+  HDC hDC() const override;
+
+  // Picture surfaces measure in pixels unless told otherwise.
+  ScaleMode Scale() const override { return scaleMode_; }
+  void SetScaleMode(ScaleMode mode) override { scaleMode_ = mode; }
+  int DrawWidth() const override { return drawWidth_; }
+  void SetDrawWidth(int pixels) override { drawWidth_ = pixels; }
 
   // Shows what should be seen now, synchronously.
   void Refresh();
@@ -69,6 +76,8 @@ class PictureBox : public Element, private WindowBase {
   int width_;
   int height_;
   bool autoRedraw_ = false;
+  ScaleMode scaleMode_ = ScaleMode::kPixels;
+  int drawWidth_ = 1;
   COLORREF backColor_;
   COLORREF foreColor_;
   Picture picture_;
