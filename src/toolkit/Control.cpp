@@ -43,9 +43,10 @@ LRESULT CALLBACK Control::Subclass(HWND window, UINT message, WPARAM wParam, LPA
   try {
     LRESULT result = 0;
     if (control->PreviewMessage(message, wParam, lParam, result)) return result;
-    if (message == WM_MOUSEMOVE && control->onMouseMove) {
-      int button = (wParam & MK_LBUTTON) ? MK_LBUTTON : (wParam & MK_RBUTTON) ? MK_RBUTTON : 0;
-      control->onMouseMove({button, GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
+    if (IsMouseMessage(message)) {
+      RaiseMouseEvent(control->mouse, message,
+                      {ButtonOf(message, wParam), GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)},
+                      control->pressed_);
     }
   } catch (...) {
     // A failing handler is stepped over; the control goes on as usual.

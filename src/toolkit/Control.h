@@ -10,7 +10,7 @@
 #include <string>
 
 #include "toolkit/Element.h"
-#include "toolkit/Label.h"
+#include "toolkit/MouseEvents.h"
 
 namespace toolkit {
 
@@ -27,7 +27,8 @@ class Control : public Element {
   virtual void OnCommand(WORD /*code*/) {}
   virtual LRESULT OnNotify(NMHDR& /*header*/) { return 0; }
 
-  std::function<void(const MouseEvent&)> onMouseMove;
+  // Seen before the control handles them; positions in pixels.
+  MouseHandlers mouse;
 
  protected:
   Control(std::string name, std::string kind, const char* className, DWORD style, DWORD exStyle,
@@ -42,6 +43,7 @@ class Control : public Element {
   static LRESULT CALLBACK Subclass(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
                                    UINT_PTR id, DWORD_PTR self) noexcept;
   int id_;
+  MouseHandlers* pressed_ = nullptr;
 };
 
 }  // namespace toolkit

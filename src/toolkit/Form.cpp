@@ -10,18 +10,6 @@ namespace {
 
 constexpr char kFormClass[] = "MorvaneForm";
 
-int ButtonOf(UINT message) {
-  switch (message) {
-    case WM_RBUTTONDOWN:
-    case WM_RBUTTONUP:
-    case WM_RBUTTONDBLCLK: return MK_RBUTTON;
-    case WM_MBUTTONDOWN:
-    case WM_MBUTTONUP:
-    case WM_MBUTTONDBLCLK: return MK_MBUTTON;
-    default: return MK_LBUTTON;
-  }
-}
-
 bool Contains(const RECT& area, POINT point) {
   return ::PtInRect(&area, point) != FALSE;
 }
@@ -43,6 +31,11 @@ Form::Form(std::string name, int clientWidthTwips, int clientHeightTwips)
       heightTwips_(clientHeightTwips) {
   InitCommonControlsOnce();
   RegisterWindowClass(kFormClass, {CS_DBLCLKS | CS_OWNDC, nullptr});
+  formMouse_.onMouseDown = [this](const MouseEvent& e) { OnMouseDown(e); };
+  formMouse_.onMouseMove = [this](const MouseEvent& e) { OnMouseMove(e); };
+  formMouse_.onMouseUp = [this](const MouseEvent& e) { OnMouseUp(e); };
+  formMouse_.onClick = [this] { OnClick(); };
+  formMouse_.onDblClick = [this] { OnDblClick(); };
 }
 
 Form::~Form() {
@@ -137,7 +130,7 @@ void Form::DestroyElements() {
   labels_.clear();
   lines_.clear();
   timers_.clear();
-  pressedLabel_ = nullptr;
+  pressed_ = nullptr;
   elements_.clear();
 }
 
@@ -291,53 +284,24 @@ void Form::OnPaintMessage() {
   ::EndPaint(Hwnd(), &paint);
 }
 
-void Form::OnMouseMessage(UINT message, WPARAM, LPARAM lParam) {
+void Form::OnMouseMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   POINT at{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
-  Label* label = LabelAt(at);
-  MouseEvent onForm{ButtonOf(message), ScaleX(at.x), ScaleY(at.y)};
-  MouseEvent onLabel = onForm;
-  if (label) onLabel = {onForm.button, at.x - label->Bounds().left, at.y - label->Bounds().top};
+  // Holding the mouse while a button is down lets a release outside count
+  // as no click.
+  if (message == WM_LBUTTONDOWN) ::SetCapture(Hwnd());
+  if (message == WM_LBUTTONUP && ::GetCapture() == Hwnd()) ::ReleaseCapture();
+  RECT client{};
+  ::GetClientRect(Hwnd(), &client);
+  const bool inside = Contains(client, at);
+  const int button = ButtonOf(message, wParam);
 
-  switch (message) {
-    case WM_MOUSEMOVE:
-      if (label && label->onMouseMove) {
-        label->onMouseMove(onLabel);
-      } else if (!label) {
-        OnMouseMove(onForm);
-      }
-      return;
-    case WM_LBUTTONDBLCLK:
-      if (label) {
-        if (label->onDblClick) label->onDblClick();
-      } else {
-        OnDblClick();
-      }
-      return;
-    case WM_LBUTTONDOWN:
-    case WM_RBUTTONDOWN:
-    case WM_MBUTTONDOWN:
-    case WM_RBUTTONDBLCLK:
-    case WM_MBUTTONDBLCLK:
-      if (message == WM_LBUTTONDOWN) {
-        pressedLabel_ = label;
-        pressedForm_ = label == nullptr;
-      }
-      if (label) {
-        if (label->onMouseDown) label->onMouseDown(onLabel);
-      } else {
-        OnMouseDown(onForm);
-      }
-      return;
-    default:  // a button went up
-      if (!label) OnMouseUp(onForm);
-      if (message == WM_LBUTTONUP) {
-        // A click is a press and a release of the left button on the same thing.
-        if (label && label == pressedLabel_ && label->onClick) label->onClick();
-        if (!label && pressedForm_) OnClick();
-        pressedLabel_ = nullptr;
-        pressedForm_ = false;
-      }
-      return;
+  Label* label = inside ? LabelAt(at) : nullptr;
+  if (label) {
+    RECT bounds = label->Bounds();
+    RaiseMouseEvent(label->mouse, message, {button, at.x - bounds.left, at.y - bounds.top},
+                    pressed_, inside);
+  } else {
+    RaiseMouseEvent(formMouse_, message, {button, ScaleX(at.x), ScaleY(at.y)}, pressed_, inside);
   }
 }
 
@@ -363,17 +327,12 @@ LRESULT Form::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       Control* control = ControlOf(header->hwndFrom);
       return control ? control->OnNotify(*header) : 0;
     }
-    case WM_MOUSEMOVE:
-    case WM_LBUTTONDOWN:
-    case WM_LBUTTONUP:
-    case WM_LBUTTONDBLCLK:
-    case WM_RBUTTONDOWN:
-    case WM_RBUTTONUP:
-    case WM_RBUTTONDBLCLK:
-    case WM_MBUTTONDOWN:
-    case WM_MBUTTONUP:
-    case WM_MBUTTONDBLCLK: OnMouseMessage(message, wParam, lParam); return 0;
-    default: return Default(message, wParam, lParam);
+    default:
+      if (IsMouseMessage(message)) {
+        OnMouseMessage(message, wParam, lParam);
+        return 0;
+      }
+      return Default(message, wParam, lParam);
   }
 }
 

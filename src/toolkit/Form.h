@@ -158,8 +158,8 @@ class Form : public Element,
   std::vector<Timer> timers_;
   std::vector<Control*> controls_;
   std::unique_ptr<ToolTips> tips_;
-  Label* pressedLabel_ = nullptr;
-  bool pressedForm_ = false;
+  MouseHandlers formMouse_;  // the form's own events, as handlers
+  MouseHandlers* pressed_ = nullptr;
 };
 
 }  // namespace toolkit

@@ -9,14 +9,9 @@
 #include <string>
 
 #include "toolkit/Element.h"
+#include "toolkit/MouseEvents.h"
 
 namespace toolkit {
-
-struct MouseEvent {
-  int button;  // MK_LBUTTON, MK_RBUTTON or MK_MBUTTON
-  int x;       // pixels, relative to the element
-  int y;
-};
 
 class Label : public Element {
  public:
@@ -39,10 +34,8 @@ class Label : public Element {
   // Set by the form so that a change shows at once.
   std::function<void(const RECT&)> invalidate;
 
-  std::function<void(const MouseEvent&)> onMouseDown;
-  std::function<void(const MouseEvent&)> onMouseMove;
-  std::function<void()> onClick;
-  std::function<void()> onDblClick;
+  // Event positions are pixels relative to the label.
+  MouseHandlers mouse;
 
  private:
   void Invalidate() const;

@@ -4,7 +4,7 @@
 
 namespace toolkit {
 
-Picture::Picture(const Picture& other) noexcept : picture_(other.picture_) {
+Picture::Picture(const Picture& other) noexcept : picture_(other.picture_), handle_(other.handle_) {
   if (picture_) picture_->AddRef();
 }
 
@@ -13,21 +13,26 @@ Picture& Picture::operator=(const Picture& other) noexcept {
     if (other.picture_) other.picture_->AddRef();
     Reset();
     picture_ = other.picture_;
+    handle_ = other.handle_;
   }
   return *this;
 }
 
-Picture::Picture(Picture&& other) noexcept : picture_(std::exchange(other.picture_, nullptr)) {}
+Picture::Picture(Picture&& other) noexcept
+    : picture_(std::exchange(other.picture_, nullptr)),
+      handle_(std::exchange(other.handle_, nullptr)) {}
 
 Picture& Picture::operator=(Picture&& other) noexcept {
   if (this != &other) {
     Reset();
     picture_ = std::exchange(other.picture_, nullptr);
+    handle_ = std::exchange(other.handle_, nullptr);
   }
   return *this;
 }
 
 void Picture::Reset() noexcept {
+  handle_ = nullptr;
   if (IPicture* old = std::exchange(picture_, nullptr)) old->Release();
 }
 
@@ -53,14 +58,11 @@ Picture Picture::Adopt(Kind kind, HANDLE handle) noexcept {
     }
     return {};
   }
-  return Picture(created);
+  return Picture(created, handle);
 }
 
 HANDLE Picture::Handle() const noexcept {
-  OLE_HANDLE handle = 0;
-  if (!picture_ || FAILED(picture_->get_Handle(&handle))) return nullptr;
-  // GDI and USER handles are 32-bit values, sign-extended on 64-bit Windows.
-  return reinterpret_cast<HANDLE>(static_cast<LONG_PTR>(static_cast<LONG>(handle)));
+  return picture_ ? handle_ : nullptr;
 }
 
 short Picture::Type() const noexcept {

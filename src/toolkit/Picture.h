@@ -32,8 +32,11 @@ class Picture {
   void Reset() noexcept;
 
  private:
-  explicit Picture(IPicture* adopted) noexcept : picture_(adopted) {}
+  Picture(IPicture* adopted, HANDLE handle) noexcept : picture_(adopted), handle_(handle) {}
   IPicture* picture_ = nullptr;
+  // The handle as the system gave it: the picture object reports only its
+  // low 32 bits, and the upper half differs between Windows and Wine.
+  HANDLE handle_ = nullptr;
 };
 
 }  // namespace toolkit

@@ -1,5 +1,7 @@
 #include "toolkit/PictureBox.h"
 
+#include <windowsx.h>
+
 namespace toolkit {
 namespace {
 
@@ -139,11 +141,25 @@ void PictureBox::OnPaint() {
   if (!autoRedraw_ && onPaint) onPaint();
 }
 
+void PictureBox::OnMouseMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  POINT at{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+  if (message == WM_LBUTTONDOWN) ::SetCapture(Hwnd());
+  if (message == WM_LBUTTONUP && ::GetCapture() == Hwnd()) ::ReleaseCapture();
+  RECT client{0, 0, width_, height_};
+  RaiseMouseEvent(mouse, message, {ButtonOf(message, wParam), at.x, at.y}, pressed_,
+                  ::PtInRect(&client, at) != FALSE);
+}
+
 LRESULT PictureBox::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_PAINT: OnPaint(); return 0;
     case WM_ERASEBKGND: return 1;
-    default: return Default(message, wParam, lParam);
+    default:
+      if (IsMouseMessage(message)) {
+        OnMouseMessage(message, wParam, lParam);
+        return 0;
+      }
+      return Default(message, wParam, lParam);
   }
 }
 

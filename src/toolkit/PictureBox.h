@@ -12,6 +12,7 @@
 
 #include "toolkit/Canvas.h"
 #include "toolkit/Element.h"
+#include "toolkit/MouseEvents.h"
 #include "toolkit/Picture.h"
 #include "toolkit/ScopedHandle.h"
 #include "toolkit/WindowBase.h"
@@ -65,11 +66,14 @@ class PictureBox : public Element, public Canvas, private WindowBase {
   // Raised when the window is repainted without AutoRedraw, after the back
   // colour and the picture.
   std::function<void()> onPaint;
+  // Event positions are pixels relative to the surface.
+  MouseHandlers mouse;
 
  private:
   LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
   void OnFontChanged() override;
   void OnPaint();
+  void OnMouseMessage(UINT message, WPARAM wParam, LPARAM lParam);
   void PaintBackground(HDC dc) const;
   void PrepareDC(HDC dc) const;
 
@@ -84,6 +88,7 @@ class PictureBox : public Element, public Canvas, private WindowBase {
   ScopedMemoryDC imageDC_;
   ScopedBitmap image_;
   HGDIOBJ imageDCOriginal_ = nullptr;
+  MouseHandlers* pressed_ = nullptr;
 };
 
 }  // namespace toolkit

@@ -35,7 +35,7 @@ class ControlsForm : public Form {
     images = &AddImageList("img32", 32, 32);
     text->onKeyPress = [this](char c) { log.push_back(std::string("key ") + c); };
     text->onChange = [this] { log.push_back("change " + text->Text()); };
-    text->onMouseMove = [this](const toolkit::MouseEvent&) { log.push_back("text move"); };
+    text->mouse.onMouseMove = [this](const toolkit::MouseEvent&) { log.push_back("text move"); };
     combo->onClick = [this] { log.push_back("choose " + combo->Text()); };
     list->onItemClick = [this](int item) { log.push_back("item " + std::to_string(item)); };
   }

@@ -34,9 +34,9 @@ class RecordingForm : public Form {
       label.SetFontSize(20);
       label.SetFontBold(true);
       label.SetForeColor(index == 0 ? RGB(255, 0, 0) : RGB(0, 255, 0));
-      label.onMouseDown = [this, index](const MouseEvent&) { Add("label down", index); };
-      label.onClick = [this, index] { Add("label click", index); };
-      label.onDblClick = [this, index] { Add("label dblclick", index); };
+      label.mouse.onMouseDown = [this, index](const MouseEvent&) { Add("label down", index); };
+      label.mouse.onClick = [this, index] { Add("label click", index); };
+      label.mouse.onDblClick = [this, index] { Add("label dblclick", index); };
     }
     if (onTick) AddTimer(kTimerId, 20, onTick);
   }

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
+
 #include "support/TestWindow.h"
 #include "toolkit/MessageLoop.h"
 
@@ -84,6 +87,31 @@ TEST_F(PictureBoxTest, TakingTheImageAsPictureKeepsTheDrawing) {
   box_.Refresh();
   EXPECT_EQ(OnScreen(1, 1), kRed);
   EXPECT_EQ(PicturePixel(box_.GetPicture(), 1, 1), kRed);
+}
+
+}  // namespace
+
+namespace {
+
+TEST_F(PictureBoxTest, MouseEventsMakeClicksOnlyFromAPressAndReleaseOnTheSurface) {
+  std::vector<std::string> log;
+  box_.mouse.onMouseDown = [&](const toolkit::MouseEvent& e) {
+    log.push_back("down " + std::to_string(e.button));
+  };
+  box_.mouse.onMouseUp = [&](const toolkit::MouseEvent&) { log.push_back("up"); };
+  box_.mouse.onClick = [&] { log.push_back("click"); };
+  box_.mouse.onDblClick = [&] { log.push_back("dblclick"); };
+  HWND w = box_.Hwnd();
+  ::SendMessageA(w, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+  ::SendMessageA(w, WM_LBUTTONUP, 0, MAKELPARAM(6, 6));
+  ::SendMessageA(w, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(6, 6));
+  ::SendMessageA(w, WM_LBUTTONUP, 0, MAKELPARAM(6, 6));
+  ::SendMessageA(w, WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(6, 6));
+  ::SendMessageA(w, WM_RBUTTONUP, 0, MAKELPARAM(6, 6));
+  ::SendMessageA(w, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+  ::SendMessageA(w, WM_LBUTTONUP, 0, MAKELPARAM(-20, 50));  // released outside
+  EXPECT_EQ(log, (std::vector<std::string>{"down 1", "up", "click", "dblclick", "up", "down 2",
+                                           "up", "down 1", "up"}));
 }
 
 }  // namespace
