@@ -47,6 +47,7 @@ void Canvas::DrawLine(double x1, double y1, double x2, double y2, COLORREF colou
   ::MoveToEx(dc, px(x1), py(y1), &previous);
   ::LineTo(dc, px(x2), py(y2));
   ::MoveToEx(dc, previous.x, previous.y, nullptr);
+  Drawn();
 }
 
 }  // namespace toolkit

@@ -24,6 +24,11 @@ class Canvas {
   // unit that has no fixed size (kUser).
   double UnitsPerPixelX() const;
   double UnitsPerPixelY() const;
+
+ protected:
+  // Called after each line: a surface that draws into a persistent image
+  // shows the change at its next repaint.
+  virtual void Drawn() const {}
 };
 
 }  // namespace toolkit

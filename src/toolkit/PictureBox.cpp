@@ -115,6 +115,10 @@ Picture PictureBox::Image() const {
   return Picture::Adopt(Picture::Kind::Bitmap, copy);
 }
 
+void PictureBox::Drawn() const {
+  if (autoRedraw_ && Hwnd()) ::InvalidateRect(Hwnd(), nullptr, FALSE);
+}
+
 void PictureBox::Refresh() {
   if (!Hwnd()) return;
   ::InvalidateRect(Hwnd(), nullptr, FALSE);

@@ -74,6 +74,7 @@ class PictureBox : public Element, public Canvas, private WindowBase {
   void OnFontChanged() override;
   void OnPaint();
   void OnMouseMessage(UINT message, WPARAM wParam, LPARAM lParam);
+  void Drawn() const override;
   void PaintBackground(HDC dc) const;
   void PrepareDC(HDC dc) const;
 
