@@ -109,6 +109,7 @@ void Startup() {
   if (!FolderExist(targetFolder)) EndProcessNow();
 
   folder::settingsFileExisted = FileExist(targetFolder + "\\" + folder::kSettingsFileName);
+  if (folder::settingsFileExisted) folder::ReadFolderSettings();
 }
 
 }  // namespace frame
