@@ -20,6 +20,29 @@ HBITMAP CreateImageBitmap(int width, int height) {
   return ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
 }
 
+}  // namespace
+
+bool PictureSize(const Picture& picture, SIZE& size) {
+  HANDLE handle = picture.Handle();
+  if (!handle) return false;
+  if (picture.Type() == PICTYPE_ICON) {
+    ICONINFO info{};
+    if (!::GetIconInfo(static_cast<HICON>(handle), &info)) return false;
+    BITMAP mask{};
+    ::GetObjectA(info.hbmMask, sizeof mask, &mask);
+    size = {mask.bmWidth, info.hbmColor ? mask.bmHeight : mask.bmHeight / 2};
+    if (info.hbmColor) ::DeleteObject(info.hbmColor);
+    ::DeleteObject(info.hbmMask);
+    return true;
+  }
+  BITMAP bitmap{};
+  if (!::GetObjectA(handle, sizeof bitmap, &bitmap)) return false;
+  size = {bitmap.bmWidth, bitmap.bmHeight};
+  return true;
+}
+
+namespace {
+
 void DrawPicture(HDC dc, const Picture& picture) {
   HANDLE handle = picture.Handle();
   if (!handle) return;
@@ -44,10 +67,8 @@ PictureBox::PictureBox(std::string name, HWND parent, const RECT& pixels, int id
       foreColor_(::GetSysColor(COLOR_BTNTEXT)) {
   RegisterWindowClass(kPictureBoxClass, {CS_DBLCLKS | CS_OWNDC, nullptr});
   imageDC_.reset(::CreateCompatibleDC(nullptr));
-  image_.reset(CreateImageBitmap(width_ > 0 ? width_ : 1, height_ > 0 ? height_ : 1));
-  imageDCOriginal_ = ::SelectObject(imageDC_.get(), image_.get());
   PrepareDC(imageDC_.get());
-  Cls();
+  MakeImage();
   CreateWindowOf(kPictureBoxClass, Name().c_str(), WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, 0,
                  pixels, parent, id);
   if (Hwnd()) PrepareDC(::GetDC(Hwnd()));  // CS_OWNDC: the window keeps this DC
@@ -99,8 +120,33 @@ void PictureBox::Cls() {
   if (Hwnd()) ::InvalidateRect(Hwnd(), nullptr, FALSE);
 }
 
+void PictureBox::MakeImage() {
+  ScopedBitmap fresh(CreateImageBitmap(width_ > 0 ? width_ : 1, height_ > 0 ? height_ : 1));
+  HGDIOBJ previous = ::SelectObject(imageDC_.get(), fresh.get());
+  if (!imageDCOriginal_) imageDCOriginal_ = previous;
+  image_ = std::move(fresh);
+  Cls();
+}
+
+void PictureBox::Resize(int width, int height) {
+  width_ = width;
+  height_ = height;
+  if (Hwnd()) {
+    ::SetWindowPos(Hwnd(), nullptr, 0, 0, width, height,
+                   SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+  }
+  MakeImage();
+}
+
 void PictureBox::SetPicture(Picture picture) {
   picture_ = std::move(picture);
+  SIZE size{};
+  if (autoSize_ && PictureSize(picture_, size)) {
+    width_ = size.cx;
+    height_ = size.cy;
+    Resize(size.cx, size.cy);
+    return;
+  }
   Cls();
 }
 

@@ -19,6 +19,9 @@
 
 namespace toolkit {
 
+// The size of a picture in pixels; false for no picture.
+bool PictureSize(const Picture& picture, SIZE& size);
+
 class PictureBox : public Element, public Canvas, private WindowBase {
  public:
   // `pixels`: position and size in the parent's client area.
@@ -60,6 +63,12 @@ class PictureBox : public Element, public Canvas, private WindowBase {
   COLORREF ForeColor() const { return foreColor_; }
   void SetForeColor(COLORREF colour);
 
+  // With AutoSize the surface takes the size of each picture given to it.
+  bool AutoSize() const { return autoSize_; }
+  void SetAutoSize(bool on) { autoSize_ = on; }
+  // New inner size in pixels; the persistent image starts afresh.
+  void Resize(int width, int height);
+
   void SetVisible(bool visible);
   bool Visible() const;
 
@@ -77,10 +86,12 @@ class PictureBox : public Element, public Canvas, private WindowBase {
   void Drawn() const override;
   void PaintBackground(HDC dc) const;
   void PrepareDC(HDC dc) const;
+  void MakeImage();
 
   int width_;
   int height_;
   bool autoRedraw_ = false;
+  bool autoSize_ = false;
   ScaleMode scaleMode_ = ScaleMode::kPixels;
   int drawWidth_ = 1;
   COLORREF backColor_;

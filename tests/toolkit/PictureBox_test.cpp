@@ -115,3 +115,25 @@ TEST_F(PictureBoxTest, MouseEventsMakeClicksOnlyFromAPressAndReleaseOnTheSurface
 }
 
 }  // namespace
+
+namespace {
+
+TEST_F(PictureBoxTest, AutoSizeFollowsThePictureUntilSwitchedOff) {
+  box_.SetAutoRedraw(true);
+  box_.SetAutoSize(true);
+  box_.SetPicture(SolidPicture(20, 10, kGreen));
+  EXPECT_EQ(box_.ScaleWidth(), 20);
+  EXPECT_EQ(box_.ScaleHeight(), 10);
+  RECT client{};
+  ::GetClientRect(box_.Hwnd(), &client);
+  EXPECT_EQ(client.right, 20);
+  EXPECT_EQ(PicturePixel(box_.Image(), 19, 9), kGreen);
+
+  box_.SetAutoSize(false);
+  box_.Resize(32, 32);
+  EXPECT_EQ(box_.ScaleWidth(), 32);
+  EXPECT_EQ(PicturePixel(box_.Image(), 19, 9), kGreen) << "the picture stays";
+  EXPECT_EQ(PicturePixel(box_.Image(), 25, 25), kBack);
+}
+
+}  // namespace
