@@ -44,12 +44,7 @@ Form::~Form() {
   UnregisterLoadedWindow(this);
 }
 
-RECT Form::ToPixels(const TwipsRect& twips) {
-  int left = Screen::TwipsToPixelsX(twips.left);
-  int top = Screen::TwipsToPixelsY(twips.top);
-  return RECT{left, top, left + Screen::TwipsToPixelsX(twips.width),
-              top + Screen::TwipsToPixelsY(twips.height)};
-}
+using Screen::ToPixels;
 
 void Form::Load() {
   if (Loaded()) return;
@@ -198,7 +193,7 @@ T& Form::Keep(std::unique_ptr<T> element) {
 }
 
 Label& Form::AddLabel(const std::string& name, int index, const TwipsRect& twips) {
-  Label& label = Keep(std::make_unique<Label>(name, index, ToPixels(twips)));
+  Label& label = Keep(std::make_unique<Label>(name, index, twips));
   label.invalidate = [this](const RECT& pixels) { Invalidate(pixels); };
   labels_.push_back(&label);
   return label;

@@ -22,6 +22,7 @@
 #include "toolkit/ListView.h"
 #include "toolkit/LoadedWindows.h"
 #include "toolkit/PictureBox.h"
+#include "toolkit/Screen.h"
 #include "toolkit/TextBox.h"
 #include "toolkit/ToolTips.h"
 #include "toolkit/WindowBase.h"
@@ -30,14 +31,6 @@ namespace toolkit {
 
 // Why a form is being unloaded.
 enum UnloadMode : int { kUnloadFromWindow = 0, kUnloadFromCode = 1 };
-
-// Position and size of an element as designed, in twips.
-struct TwipsRect {
-  int left;
-  int top;
-  int width;
-  int height;
-};
 
 // A line drawn by the form between two points given in twips.
 class Line : public Element {
@@ -93,9 +86,6 @@ class Form : public Element,
   // Pixels, converted to the form's own unit.
   int ScaleX(int pixels) const;
   int ScaleY(int pixels) const;
-
-  // Pixel rectangle of a design rectangle in twips.
-  static RECT ToPixels(const TwipsRect& twips);
 
   ElementList Elements() const override;
   // The form's tool tips, created with the first use.

@@ -2,11 +2,11 @@
 
 namespace toolkit {
 
-Label::Label(std::string name, int index, const RECT& pixels)
-    : Element(std::move(name), "Label"), index_(index), bounds_(pixels) {}
+Label::Label(std::string name, int index, const TwipsRect& twips)
+    : Element(std::move(name), "Label"), index_(index), twips_(twips) {}
 
 void Label::Invalidate() const {
-  if (invalidate) invalidate(bounds_);
+  if (invalidate) invalidate(Bounds());
 }
 
 void Label::SetCaption(std::string caption) {
@@ -24,15 +24,15 @@ void Label::SetVisible(bool visible) {
   Invalidate();
 }
 
-void Label::SetBounds(const RECT& pixels) {
+void Label::Move(const TwipsRect& twips) {
   Invalidate();
-  bounds_ = pixels;
+  twips_ = twips;
   Invalidate();
 }
 
 void Label::Draw(HDC dc) const {
   if (!visible_ || caption_.empty()) return;
-  RECT area = bounds_;
+  RECT area = Bounds();
   int oldMode = ::SetBkMode(dc, TRANSPARENT);
   COLORREF oldColour = ::SetTextColor(dc, foreColor_);
   HGDIOBJ oldFont = Font() ? ::SelectObject(dc, Font()) : nullptr;

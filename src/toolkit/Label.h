@@ -10,12 +10,13 @@
 
 #include "toolkit/Element.h"
 #include "toolkit/MouseEvents.h"
+#include "toolkit/Screen.h"
 
 namespace toolkit {
 
 class Label : public Element {
  public:
-  Label(std::string name, int index, const RECT& pixels);
+  Label(std::string name, int index, const TwipsRect& twips);
 
   int Index() const { return index_; }  // -1 outside a pair
   const std::string& Caption() const { return caption_; }
@@ -24,9 +25,11 @@ class Label : public Element {
   void SetForeColor(COLORREF colour);
   bool Visible() const { return visible_; }
   void SetVisible(bool visible);
-  // Position and size in the form's client area, pixels.
-  RECT Bounds() const override { return bounds_; }
-  void SetBounds(const RECT& pixels);
+  // Position and size in the form's client area: as designed, in twips, and
+  // as drawn, in pixels.
+  const TwipsRect& Position() const { return twips_; }
+  void Move(const TwipsRect& twips);
+  RECT Bounds() const override { return Screen::ToPixels(twips_); }
 
   // Draws the caption, word-wrapped inside the bounds, without a background.
   void Draw(HDC dc) const;
@@ -41,7 +44,7 @@ class Label : public Element {
   void Invalidate() const;
 
   int index_;
-  RECT bounds_;
+  TwipsRect twips_;
   std::string caption_;
   COLORREF foreColor_ = RGB(0, 0, 0);
   bool visible_ = true;

@@ -40,4 +40,9 @@ int TwipsToPixelsY(int twips) {
   return Round(twips, TwipsPerPixelY());
 }
 
+RECT ToPixels(const TwipsRect& twips) {
+  return RECT{TwipsToPixelsX(twips.left), TwipsToPixelsY(twips.top),
+              TwipsToPixelsX(twips.left + twips.width), TwipsToPixelsY(twips.top + twips.height)};
+}
+
 }  // namespace toolkit::Screen

@@ -2,6 +2,20 @@
 // the display's real DPI, and conversions between the two units.
 #pragma once
 
+#include <windows.h>
+
+namespace toolkit {
+
+// Position and size of an element as designed, in twips.
+struct TwipsRect {
+  int left;
+  int top;
+  int width;
+  int height;
+};
+
+}  // namespace toolkit
+
 namespace toolkit::Screen {
 
 inline constexpr int kTwipsPerInch = 1440;
@@ -23,5 +37,8 @@ inline int PixelsToTwipsX(int pixels) {
 inline int PixelsToTwipsY(int pixels) {
   return pixels * TwipsPerPixelY();
 }
+
+// The pixel rectangle of a design rectangle; each edge rounded on its own.
+RECT ToPixels(const TwipsRect& twips);
 
 }  // namespace toolkit::Screen
