@@ -156,7 +156,7 @@ TEST(ShippingFolder, HoldsExactlyTheProgramItsLibrariesAndConfig) {
   } while (::FindNextFileA(search, &entry));
   ::FindClose(search);
   EXPECT_EQ(names, (std::set<std::string>{"Config.ini", "LANG_ENG.DLL", "LANG_ESP.DLL",
-                                          "Morvane.exe", "Resource.DLL"}));
+                                          "Morvane.exe", "Resource.DLL", "iconos.dll"}));
 
   const std::string config = DistFolder() + "Config.ini";
   EXPECT_EQ(frame::ReadIniValue("Config", "Font", config), "Tahoma");

@@ -110,12 +110,19 @@ std::string ScratchFolder::MakeFolder(const std::string& name) const {
 }
 
 ProgramCopy::ProgramCopy() {
-  for (const char* name :
-       {"Morvane.exe", "LANG_ENG.DLL", "LANG_ESP.DLL", "Resource.DLL", "Config.ini"}) {
+  WIN32_FIND_DATAA entry;
+  HANDLE search = ::FindFirstFileA((DistFolder() + "*").c_str(), &entry);
+  if (search == INVALID_HANDLE_VALUE)
+    throw std::runtime_error("no shipping folder " + DistFolder());
+  do {
+    if (entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) continue;
+    std::string name = entry.cFileName;
     if (!::CopyFileA((DistFolder() + name).c_str(), File(name).c_str(), FALSE)) {
-      throw std::runtime_error(std::string("cannot copy ") + name + " from " + DistFolder());
+      ::FindClose(search);
+      throw std::runtime_error("cannot copy " + name + " from " + DistFolder());
     }
-  }
+  } while (::FindNextFileA(search, &entry));
+  ::FindClose(search);
 }
 
 ChildProcess::ChildProcess(const std::string& application, const std::string& commandLine) {

@@ -40,8 +40,8 @@ class ScratchFolder {
 
 void DeleteTree(const std::string& path);
 
-// A copy of the shipping folder to run Morvane from, so that tests can
-// change its files freely.
+// A copy of every file of the shipping folder to run Morvane from, so that
+// tests can change its files freely.
 class ProgramCopy {
  public:
   ProgramCopy();

@@ -1,6 +1,6 @@
 #include "support/TestWindow.h"
 
-#include <vector>
+#include "support/Pixels.h"
 
 #include "toolkit/MessageLoop.h"
 
@@ -18,23 +18,9 @@ TestWindow::~TestWindow() {
 }
 
 COLORREF BitmapPixel(HBITMAP bitmap, int x, int y) {
-  BITMAP info{};
-  if (!::GetObjectA(bitmap, sizeof info, &info)) return CLR_INVALID;
-  BITMAPINFO request{};
-  request.bmiHeader.biSize = sizeof(BITMAPINFOHEADER);
-  request.bmiHeader.biWidth = info.bmWidth;
-  request.bmiHeader.biHeight = -info.bmHeight;
-  request.bmiHeader.biPlanes = 1;
-  request.bmiHeader.biBitCount = 32;
-  request.bmiHeader.biCompression = BI_RGB;
-  std::vector<DWORD> pixels(static_cast<size_t>(info.bmWidth) * info.bmHeight);
-  HDC screen = ::GetDC(nullptr);
-  int lines =
-      ::GetDIBits(screen, bitmap, 0, info.bmHeight, pixels.data(), &request, DIB_RGB_COLORS);
-  ::ReleaseDC(nullptr, screen);
-  if (lines != info.bmHeight) return CLR_INVALID;
-  DWORD bgr = pixels[static_cast<size_t>(y) * info.bmWidth + x];
-  return RGB((bgr >> 16) & 0xFF, (bgr >> 8) & 0xFF, bgr & 0xFF);
+  PixelGrid grid = ReadPixels(bitmap);
+  if (x < 0 || y < 0 || x >= grid.width || y >= grid.height) return CLR_INVALID;
+  return grid.Colour(x, y);
 }
 
 COLORREF PicturePixel(const toolkit::Picture& picture, int x, int y) {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "support/Pixels.h"
+
 namespace {
 
 using toolkit::Picture;
@@ -9,14 +11,6 @@ using toolkit::Picture;
 bool BitmapAlive(HANDLE handle) {
   return ::GetObjectType(handle) == OBJ_BITMAP;
 }
-bool IconAlive(HANDLE handle) {
-  ICONINFO info{};
-  if (!::GetIconInfo(static_cast<HICON>(handle), &info)) return false;
-  ::DeleteObject(info.hbmColor);
-  ::DeleteObject(info.hbmMask);
-  return true;
-}
-
 HICON NewIcon() {
   BYTE and_mask[32 * 4] = {}, xor_mask[32 * 4] = {};
   return ::CreateIcon(nullptr, 32, 32, 1, 1, and_mask, xor_mask);
@@ -44,9 +38,9 @@ TEST(Picture, TheLastReferenceDestroysTheIcon) {
     Picture picture = Picture::Adopt(Picture::Kind::Icon, icon);
     EXPECT_EQ(picture.Type(), PICTYPE_ICON);
     EXPECT_EQ(picture.Handle(), icon);
-    EXPECT_TRUE(IconAlive(icon));
+    EXPECT_TRUE(testing_support::IconAlive(icon));
   }
-  EXPECT_FALSE(IconAlive(icon));
+  EXPECT_FALSE(testing_support::IconAlive(icon));
 }
 
 TEST(Picture, NoHandleGivesNoPicture) {
