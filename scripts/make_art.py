@@ -21,7 +21,9 @@ from PIL import Image, ImageChops, ImageDraw, ImageFont
 PAPER = (240, 235, 223)
 TRANSPARENT = (255, 255, 0)
 
-SKIN_SIZE = 128
+# At least as wide and high as the window's skin surface (197 x 38 px), so
+# that a button face cut from it is textured all the way across.
+SKIN_SIZE = 256
 LOGO_SIZE = (200, 34)
 ICON_SIZES = (16, 32, 48)
 SUPERSAMPLE = 4

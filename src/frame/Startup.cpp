@@ -9,7 +9,9 @@
 #include "frame/modFileExist.h"
 #include "frame/modINI.h"
 #include "resource_ids.h"
+#include "toolkit/MessageLoop.h"
 #include "toolkit/ScopedHandle.h"
+#include "ui/frmPrincipal.h"
 
 namespace frame {
 namespace {
@@ -110,6 +112,18 @@ void Startup() {
 
   folder::settingsFileExisted = FileExist(targetFolder + "\\" + folder::kSettingsFileName);
   if (folder::settingsFileExisted) folder::ReadFolderSettings();
+
+  ui::FrmPrincipal& main = ui::MainWindow();
+  main.Load();
+  toolkit::DoEvents();
+  main.Tile();
+  main.Show();
+  toolkit::DoEvents();
+  main.CargarIconosdeArchivo();
+  toolkit::DoEvents();
+  toolkit::DoEvents();
+
+  startingUp = false;
 }
 
 }  // namespace frame

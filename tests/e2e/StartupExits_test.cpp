@@ -22,6 +22,7 @@ using testing_support::WriteWholeFile;
 
 constexpr auto kStartLimit = 15s;
 constexpr char kDialogClass[] = "#32770";
+constexpr char kFormClass[] = "MorvaneForm";
 
 std::string StringOf(const std::string& library, int id) {
   frame::CResDll dll;
@@ -156,12 +157,19 @@ TEST_F(MorvaneRun, ATargetThatIsNoFolderEndsAtOnceWithoutCleanUp) {
   }
 }
 
-TEST_F(MorvaneRun, AFolderWithOneTrailingSeparatorIsAccepted) {
+TEST_F(MorvaneRun, AFolderWithOneTrailingSeparatorOpensTheMainWindow) {
   for (const std::string& arguments :
        {target_.Path(), target_.Path() + "\\", target_.Path() + "/"}) {
     WriteWholeFile(FontFile(), "stale font");
-    ExpectSilentEnd(arguments);
-    EXPECT_FALSE(PathExists(FontFile())) << "went on past the folder test: " << arguments;
+    auto child = Start(arguments);
+    HWND main = child->WaitForWindow(kFormClass, kStartLimit);
+    ASSERT_NE(main, nullptr) << arguments;
+    EXPECT_EQ(WindowText(main), StringOf("LANG_ENG.DLL", IDS_PRODUCT_NAME) + " - " +
+                                    StringOf("LANG_ENG.DLL", IDS_PRODUCT_TAGLINE));
+    ::PostMessageA(main, WM_CLOSE, 0, 0);
+    ASSERT_TRUE(child->WaitForExit(kStartLimit));
+    EXPECT_EQ(child->ExitCode(), 0u);
+    EXPECT_FALSE(PathExists(FontFile())) << "closed through the orderly end: " << arguments;
   }
 }
 

@@ -1,0 +1,171 @@
+// The icon browser of the main window: loading the icons of the current
+// icon file, choosing one, applying by double-click, and browsing for
+// another icon file.
+#include <windows.h>
+
+#include <commctrl.h>
+#include <commdlg.h>
+
+#include "folder/ApplyFolderIcon.h"
+#include "folder/DefaultFolderIcon.h"
+#include "folder/FolderSettings.h"
+#include "frame/CResDll.h"
+#include "frame/CWaitCursor.h"
+#include "frame/RunState.h"
+#include "icons/clsCommonDialog.h"
+#include "icons/modExtractIcon.h"
+#include "icons/modIcon.h"
+#include "resource_ids.h"
+#include "toolkit/MessageLoop.h"
+#include "ui/frmPrincipal.h"
+#include "ui/modDrawText.h"
+
+namespace ui {
+namespace {
+
+constexpr int kIconSpacing = 43;
+constexpr LPARAM kDefaultSpacing = -1;
+constexpr std::int32_t kChooserFlags =
+    OFN_EXPLORER | OFN_FILEMUSTEXIST | OFN_PATHMUSTEXIST | OFN_HIDEREADONLY;
+
+// One step of a routine that steps over failures.
+template <typename Step>
+void Try(Step step) {
+  try {
+    step();
+  } catch (const toolkit::ElementError&) {
+  }
+}
+
+}  // namespace
+
+void FrmPrincipal::ShowProgress(int position, int count) {
+  const std::string progress =
+      loadingText_ + " " + std::to_string(position) + "/" + std::to_string(count);
+  picStatus_->Cls();
+  picStatus_->SetPicture(frame::PictureLibrary().LoadDllBitmap(IDB_SKIN));
+  DrawCaption(*picStatus_, progress);
+  picStatus_->Refresh();
+}
+
+void FrmPrincipal::CargarIconosdeArchivo() {
+  frame::CWaitCursor wait;
+  wait.SetCursor(toolkit::kPointerHourglass);
+
+  frame::loadingIcons = true;
+  toolkit::DoEvents();
+
+  lvwIconos_->SetIcons(nullptr);
+  lvwIconos_->SetSmallIcons(nullptr);
+  lvwIconos_->Clear();
+  img32_->Clear();
+
+  const std::string file = frame::currentIconFile;
+  const std::int32_t count = icons::GetIconCount(file);
+  if (count < 1) {
+    toolkit::Picture shellIcon = icons::GetShellIconPicture(file, icons::kLargeShellIcon);
+    Try([&] { img32_->Add("c0", shellIcon); });
+    lvwIconos_->SetIcons(img32_);
+    Try([&] { lvwIconos_->AddItem("a1", "", 1); });
+    frame::iconListEmpty = true;
+    frame::loadingIcons = false;
+    return;
+  }
+
+  HICON icon = nullptr;
+  for (std::int32_t i = 0; i <= count; ++i) {
+    ShowProgress(i, count);
+    icons::ReleaseIcon(icon);
+    icon = icons::ExtractLargeIcon(file, i);
+    if (!icon) break;
+    picTMP_->SetPicture({});
+    icons::DrawIconInPicture(icon, *picTMP_, 0, 0);
+    picTMP_->SetPicture(picTMP_->Image());
+    picTMP_->Refresh();
+    Try([&] { img32_->Add("c" + std::to_string(i), picTMP_->GetPicture()); });
+  }
+  frame::loadingIcons = false;
+  icons::ReleaseIcon(icon);
+
+  lvwIconos_->SetIcons(img32_);
+  for (std::int32_t j = 1; j <= count; ++j) {
+    // Items whose image could not be made are refused by the list.
+    Try([&] { lvwIconos_->AddItem("a" + std::to_string(j), "", j); });
+    frame::iconListEmpty = false;
+  }
+}
+
+void FrmPrincipal::SelectIcon(std::optional<int> item) {
+  // Without an item every step that needs one fails and is stepped over:
+  // no icon is drawn and the position keeps its value.
+  HICON icon = item ? icons::ExtractLargeIcon(frame::currentIconFile, *item - 1) : nullptr;
+  picNuevoIcono_->SetPicture({});
+  icons::DrawIconInPicture(icon, *picNuevoIcono_, 0, 0);
+  picNuevoIcono_->Refresh();
+  picNuevoIcono_->SetPicture(picNuevoIcono_->Image());
+  icons::ReleaseIcon(icon);
+  folder::FolderSettings.iconFile = frame::currentIconFile;
+  if (item) folder::FolderSettings.iconIndex = *item - 1;
+}
+
+void FrmPrincipal::OnIconsDblClick() {
+  const int selected = lvwIconos_->SelectedIndex();
+  SelectIcon(selected > 0 ? std::optional<int>(selected) : std::nullopt);
+  OnPreviewDblClick();
+}
+
+void FrmPrincipal::OnPreviewDblClick() {
+  if (!picNuevoIcono_->GetPicture().Handle()) return;
+  folder::ApplyFolderIcon(false);
+  Unload();
+}
+
+void FrmPrincipal::OnDefaultIconDblClick() {
+  folder::RemoveFolderIcon();
+  toolkit::DoEvents();
+  Unload();
+}
+
+void FrmPrincipal::Browse() {
+  if (frame::browsingForFile) return;
+  icons::clsCommonDialog chooser;
+  chooser.DialogTitle(frame::LanguageLibrary().LoadDllString(IDS_CHOOSER_TITLE));
+  chooser.Filter(frame::LanguageLibrary().LoadDllString(IDS_CHOOSER_FILTER));
+  chooser.Flags(kChooserFlags);
+  chooser.InitDir(lastIconFolder_.empty() ? frame::targetFolder : lastIconFolder_);
+
+  frame::browsingForFile = true;
+  chooser.ShowOpen();
+  frame::browsingForFile = false;
+  if (chooser.Cancelled()) return;
+
+  toolkit::DoEvents();
+  std::string file = chooser.filename();
+  recent_->OpenIconFile(file);
+  lastIconFolder_ = file;
+  const auto slash = file.rfind('\\');
+  if (slash != std::string::npos) lastIconFolder_ = file.substr(0, slash);
+}
+
+bool FrmPrincipal::SetIconSpacing() {
+  ::SendMessageA(lvwIconos_->Hwnd(), LVM_SETICONSPACING, 0, kDefaultSpacing);
+  ::SendMessageA(lvwIconos_->Hwnd(), LVM_SETICONSPACING, 0, MAKELPARAM(kIconSpacing, kIconSpacing));
+  return true;
+}
+
+void FrmPrincipal::ShowApplyButton(bool visible) {
+  picAplicar_->SetVisible(visible);
+}
+
+void FrmPrincipal::ShowDefaultFolderIcon() {
+  std::optional<folder::IconLocation> location = folder::DefaultFolderIcon();
+  if (!location) return;
+  HICON icon = icons::ExtractLargeIcon(location->file, location->index);
+  if (!icon) return;
+  picIconoDefaultFolder_->SetPicture({});
+  ::DrawIcon(picIconoDefaultFolder_->hDC(), 0, 0, icon);
+  picIconoDefaultFolder_->SetPicture(picIconoDefaultFolder_->Image());
+  icons::ReleaseIcon(icon);
+}
+
+}  // namespace ui
