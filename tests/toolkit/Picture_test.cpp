@@ -2,18 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include "support/Pixels.h"
-
 namespace {
 
 using toolkit::Picture;
 
 bool BitmapAlive(HANDLE handle) {
   return ::GetObjectType(handle) == OBJ_BITMAP;
-}
-HICON NewIcon() {
-  BYTE and_mask[32 * 4] = {}, xor_mask[32 * 4] = {};
-  return ::CreateIcon(nullptr, 32, 32, 1, 1, and_mask, xor_mask);
 }
 
 TEST(Picture, TheLastReferenceDestroysTheBitmap) {
@@ -30,17 +24,6 @@ TEST(Picture, TheLastReferenceDestroysTheBitmap) {
   EXPECT_FALSE(copy);
   moved = Picture();
   EXPECT_FALSE(BitmapAlive(bitmap));
-}
-
-TEST(Picture, TheLastReferenceDestroysTheIcon) {
-  HICON icon = NewIcon();
-  {
-    Picture picture = Picture::Adopt(Picture::Kind::Icon, icon);
-    EXPECT_EQ(picture.Type(), PICTYPE_ICON);
-    EXPECT_EQ(picture.Handle(), icon);
-    EXPECT_TRUE(testing_support::IconAlive(icon));
-  }
-  EXPECT_FALSE(testing_support::IconAlive(icon));
 }
 
 TEST(Picture, NoHandleGivesNoPicture) {
