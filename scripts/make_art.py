@@ -16,9 +16,10 @@ import sys
 
 from PIL import Image, ImageChops, ImageDraw, ImageFont
 
-# Warm paper; also the colour the logo's edges are smoothed against, because
-# the logo is always drawn over this texture.
-PAPER = (240, 235, 223)
+# Warm stone of middle tone: the window's labels are white over black, the
+# button captions black, and both must read on it. Also the colour the logo's
+# edges are smoothed against, because the logo is always drawn over it.
+PAPER = (150, 144, 134)
 TRANSPARENT = (255, 255, 0)
 
 # At least as wide and high as the window's skin surface (197 x 38 px), so
@@ -205,12 +206,12 @@ def make_logo():
         plain = plain.resize((int(plain.width * scale), int(plain.height * scale)), Image.NEAREST)
         text_layer.paste(plain, (tx, (big[1] - plain.height) // 2))
 
-    # A light copy just below the letters, as if pressed into the paper.
+    # A dark copy just below the letters, as if they stood out of the stone.
     emboss = Image.new("L", big, 0)
     emboss.paste(text_layer, (s // 2 + 1, s))
-    _paint(art, emboss, Image.new("RGBA", big, (255, 255, 255, 230)))
+    _paint(art, emboss, Image.new("RGBA", big, (40, 34, 28, 220)))
     _paint(art, text_layer, _vertical_gradient(big, (0, 6 * s, big[0], 28 * s),
-                                               (46, 88, 168), (18, 40, 100)))
+                                               (255, 255, 255), (232, 224, 206)))
 
     small = art.resize(LOGO_SIZE, Image.LANCZOS)
     backing = Image.new("RGBA", LOGO_SIZE, PAPER + (255,))

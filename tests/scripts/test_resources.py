@@ -106,10 +106,10 @@ class ArtTest(unittest.TestCase):
         # Button faces are cut from one 197 x 38 px copy of the texture.
         self.assertTrue(skin.size[0] == skin.size[1] and size >= 197, skin.size)
         px = skin.load()
-        # Blue captions are the weaker of the two: they need readable contrast
-        # even on the darkest spot.
-        darkest = min(luminance(px[x, y]) for x in range(size) for y in range(size))
-        self.assertGreaterEqual((darkest + 0.05) / (luminance((0, 0, 255)) + 0.05), 4.5)
+        # White labels and black captions are both drawn on it.
+        mean = sum(luminance(px[x, y]) for x in range(size) for y in range(size)) / size ** 2
+        self.assertGreaterEqual(1.05 / (mean + 0.05), 3.0, "white text")
+        self.assertGreaterEqual((mean + 0.05) / 0.05, 4.5, "black text")
 
         for axis in ("column", "row"):
             def line(i):

@@ -1,0 +1,32 @@
+#!/usr/bin/env bash
+# Takes the screenshots in docs/: Morvane on a sample folder, on a private
+# virtual display, with the mouse resting outside the window.
+set -euo pipefail
+source "$(dirname "$0")/common.sh"
+
+build_morvane >/dev/null
+prepare_wine_prefix "$build_dir/wineprefix"
+start_virtual_display
+cleanup() {
+  wineserver -k 2>/dev/null || true
+  stop_virtual_display
+}
+trap cleanup EXIT
+start_wine_server
+unmanaged_windows N
+
+# A short path, so that the folder label shows it whole.
+sample="/tmp/Holiday Photos"
+mkdir -p "$sample"
+xdotool mousemove 5 5
+read -r -a words <<<"$(winepath -w "$sample")"
+wine "$build_dir/dist/Morvane.exe" "${words[@]}" &
+sleep "${MORVANE_SCREENSHOT_DELAY:-6}"
+# Passing over the window's background repaints the buttons and the status
+# strip in their resting state.
+xdotool mousemove 700 200 sleep 0.5 mousemove 5 5 sleep 1
+
+mkdir -p "$repo_root/docs"
+# The window is centred on the 1024 x 768 screen.
+/usr/bin/import -window root -crop 577x428+223+170 +repage "$repo_root/docs/main-window.png"
+echo "docs/main-window.png"
