@@ -11,6 +11,9 @@ constexpr UINT kOneCentredLine = DT_CENTER | DT_SINGLELINE;
 void DrawCaption(toolkit::PictureBox& surface, const std::string& text) {
   RECT area{0, kCaptionTop, surface.ScaleWidth(), surface.ScaleHeight()};
   ::DrawTextA(surface.hDC(), text.c_str(), static_cast<int>(text.size()), &area, kOneCentredLine);
+  // What the surface shows in pictures, screen readers and tests read as its
+  // window text.
+  if (surface.Hwnd()) ::SetWindowTextA(surface.Hwnd(), text.c_str());
 }
 
 }  // namespace ui
