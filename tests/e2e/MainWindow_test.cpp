@@ -41,6 +41,27 @@ void ClickAt(HWND window, POINT client, bool twice = false) {
   std::this_thread::sleep_for(300ms);
 }
 
+void Type(const std::string& text) {
+  for (char c : text) {
+    INPUT key[2] = {};
+    key[0].type = key[1].type = INPUT_KEYBOARD;
+    key[0].ki.wScan = key[1].ki.wScan = static_cast<WORD>(static_cast<unsigned char>(c));
+    key[0].ki.dwFlags = KEYEVENTF_UNICODE;
+    key[1].ki.dwFlags = KEYEVENTF_UNICODE | KEYEVENTF_KEYUP;
+    ::SendInput(2, key, sizeof(INPUT));
+  }
+  std::this_thread::sleep_for(300ms);
+}
+
+void PressKey(WORD virtualKey) {
+  INPUT key[2] = {};
+  key[0].type = key[1].type = INPUT_KEYBOARD;
+  key[0].ki.wVk = key[1].ki.wVk = virtualKey;
+  key[1].ki.dwFlags = KEYEVENTF_KEYUP;
+  ::SendInput(2, key, sizeof(INPUT));
+  std::this_thread::sleep_for(300ms);
+}
+
 POINT Centre(HWND window) {
   RECT client{};
   ::GetClientRect(window, &client);
@@ -49,7 +70,8 @@ POINT Centre(HWND window) {
 
 class MainWindowTest : public ::testing::Test {
  protected:
-  void SetUp() override {
+  void SetUp() override { Start(); }
+  void Start() {
     child_ = std::make_unique<ChildProcess>(program_.Exe(),
                                             "\"" + program_.Exe() + "\" " + target_.Path());
     main_ = child_->WaitForWindow("MorvaneForm", kLimit);
@@ -116,6 +138,57 @@ TEST_F(MainWindowTest, DoubleClickingAnIconAppliesWithoutAskingAndEnds) {
   ASSERT_TRUE(child_->WaitForExit(kLimit));
   EXPECT_EQ(Settings("IconIndex"), "1");
   EXPECT_FALSE(PathExists(program_.File("Morvane.ttf")));
+}
+
+TEST_F(MainWindowTest, TypingAnInfoTipShowsApplyAndTheFileHoldsTheWholeText) {
+  ClickAt(Element(ui::ids::txtInfoCarpeta), {20, 10});
+  Type("Photos of our summer, 2026");
+  ASSERT_TRUE(::IsWindowVisible(Element(ui::ids::picAplicar)));
+  ClickAt(Element(ui::ids::picAplicar), Centre(Element(ui::ids::picAplicar)));
+  HWND question = WaitForMessageBox();
+  ASSERT_NE(question, nullptr);
+  ::PostMessageA(question, WM_COMMAND, IDYES, 0);
+  std::this_thread::sleep_for(500ms);
+  EXPECT_EQ(Settings("InfoTip"), "Photos of our summer, 2026");
+}
+
+TEST_F(MainWindowTest, DoubleClickingTheDefaultIconAsksRemovesAndEnds) {
+  testing_support::WriteWholeFile(target_ / "Desktop.ini", "[.ShellClassInfo]\r\nIconIndex=3\r\n");
+  ClickAt(Element(ui::ids::picIconoDefaultFolder), Centre(Element(ui::ids::picIconoDefaultFolder)),
+          true);
+  HWND question = WaitForMessageBox();
+  ASSERT_NE(question, nullptr);
+  ::PostMessageA(question, WM_COMMAND, IDYES, 0);
+  ASSERT_TRUE(child_->WaitForExit(kLimit));
+  EXPECT_FALSE(PathExists(target_ / "Desktop.ini"));
+}
+
+TEST_F(MainWindowTest, TheWindowRefusesToCloseWhileTheFileChooserIsOpen) {
+  ClickAt(Element(ui::ids::picBuscarArchivo), Centre(Element(ui::ids::picBuscarArchivo)));
+  HWND chooser = WaitForMessageBox();
+  ASSERT_NE(chooser, nullptr);
+  ::PostMessageA(main_, WM_CLOSE, 0, 0);
+  EXPECT_FALSE(child_->WaitForExit(1s)) << "refused while the chooser is open";
+  ::PostMessageA(chooser, WM_COMMAND, IDCANCEL, 0);
+  std::this_thread::sleep_for(500ms);
+  ::PostMessageA(main_, WM_CLOSE, 0, 0);
+  EXPECT_TRUE(child_->WaitForExit(kLimit));
+}
+
+TEST_F(MainWindowTest, ChoosingARecentFileLoadsItsIcons) {
+  ::PostMessageA(main_, WM_CLOSE, 0, 0);
+  ASSERT_TRUE(child_->WaitForExit(kLimit));
+  const std::string library = testing_support::TestFolder() + "ICONS120.DLL";
+  frame::WriteIniValue("Recent", "ARA01", library, program_.File("ARA.INI"));
+  Start();
+  ClickAt(Element(ui::ids::cboARA), {20, 10});
+  PressKey(VK_ESCAPE);
+  PressKey(VK_DOWN);
+  auto deadline = std::chrono::steady_clock::now() + kLimit;
+  while (Count() != 120 && std::chrono::steady_clock::now() < deadline) {
+    std::this_thread::sleep_for(50ms);
+  }
+  EXPECT_EQ(Count(), 120);
 }
 
 }  // namespace
