@@ -5,8 +5,9 @@ repo_root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 build_dir=${MORVANE_BUILD_DIR:-$repo_root/build}
 
 export WINEDEBUG=${WINEDEBUG:--all}
-# No Mono or Gecko installer prompts in a fresh prefix.
-export WINEDLLOVERRIDES=${WINEDLLOVERRIDES:-mscoree,mshtml=}
+# No Mono or Gecko installer prompts in a fresh prefix, and no desktop
+# menu entries: a shell notification would otherwise start winemenubuilder.
+export WINEDLLOVERRIDES=${WINEDLLOVERRIDES:-mscoree,mshtml,winemenubuilder.exe=}
 
 build_morvane() {
   bash "$repo_root/scripts/install-deps.sh"

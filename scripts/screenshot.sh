@@ -24,9 +24,9 @@ wine "$build_dir/dist/Morvane.exe" "${words[@]}" &
 sleep "${MORVANE_SCREENSHOT_DELAY:-6}"
 # Passing over the window's background repaints the buttons and the status
 # strip in their resting state.
-xdotool mousemove 700 200 sleep 0.5 mousemove 5 5 sleep 1
+xdotool mousemove 483 370 sleep 0.5 mousemove 5 5 sleep 1
 
 mkdir -p "$repo_root/docs"
-# The window is centred on the 1024 x 768 screen.
-/usr/bin/import -window root -crop 577x428+223+170 +repage "$repo_root/docs/main-window.png"
+# The window is centred on the 1024 x 768 screen; the margin shows its shadow.
+/usr/bin/import -window root -crop 597x448+213+160 +repage "$repo_root/docs/main-window.png"
 echo "docs/main-window.png"

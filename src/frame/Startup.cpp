@@ -12,6 +12,7 @@
 #include "toolkit/MessageLoop.h"
 #include "toolkit/ScopedHandle.h"
 #include "ui/frmPrincipal.h"
+#include "ui/frmShadow.h"
 
 namespace frame {
 namespace {
@@ -117,6 +118,7 @@ void Startup() {
   main.Load();
   toolkit::DoEvents();
   main.Tile();
+  ui::ShadowWindow().Show();
   main.Show();
   toolkit::DoEvents();
   main.CargarIconosdeArchivo();

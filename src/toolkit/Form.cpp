@@ -49,8 +49,8 @@ using Screen::ToPixels;
 void Form::Load() {
   if (Loaded()) return;
   RECT pixels = ToPixels({0, 0, widthTwips_, heightTwips_});
-  if (!CreateWindowOf(kFormClass, Name().c_str(), WS_POPUP | WS_CLIPCHILDREN, 0, pixels, nullptr,
-                      0)) {
+  if (!CreateWindowOf(kFormClass, Name().c_str(), WS_POPUP | WS_CLIPCHILDREN, ExtendedStyle(),
+                      pixels, nullptr, 0)) {
     return;
   }
   AttachWindow(Hwnd());
@@ -163,6 +163,11 @@ int Form::ScaleX(int pixels) const {
 int Form::ScaleY(int pixels) const {
   double per = UnitsPerPixelY();
   return per > 0 ? static_cast<int>(pixels * per) : pixels;
+}
+
+void Form::SetBackColor(COLORREF colour) {
+  backColor_ = colour;
+  if (Loaded()) ::InvalidateRect(Hwnd(), nullptr, TRUE);
 }
 
 HDC Form::hDC() const {
@@ -304,6 +309,14 @@ LRESULT Form::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_PAINT: OnPaintMessage(); return 0;
     case WM_CLOSE: Unload(kUnloadFromWindow); return 0;
+    case WM_ERASEBKGND: {
+      RECT client;
+      ::GetClientRect(Hwnd(), &client);
+      ScopedHandle<NullInvalidTraits<HBRUSH, DeleteGdiObject>> brush(
+          ::CreateSolidBrush(backColor_));
+      ::FillRect(reinterpret_cast<HDC>(wParam), &client, brush.get());
+      return 1;
+    }
     case WM_ACTIVATE:
       if (LOWORD(wParam) != WA_INACTIVE) OnActivate();
       return 0;

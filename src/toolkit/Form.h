@@ -78,6 +78,9 @@ class Form : public Element,
   void Move(int left, int top);
   void Resize(int width, int height);
 
+  COLORREF BackColor() const { return backColor_; }
+  void SetBackColor(COLORREF colour);
+
   ScaleMode Scale() const override { return scaleMode_; }
   void SetScaleMode(ScaleMode mode) override { scaleMode_ = mode; }
   HDC hDC() const override;  // the form's own drawing context
@@ -93,6 +96,9 @@ class Form : public Element,
   Element* Find(const std::string& name, int index = -1) const;
 
  protected:
+  // Extended window styles, e.g. WS_EX_TOOLWINDOW for a window that the
+  // taskbar does not list.
+  virtual DWORD ExtendedStyle() const { return 0; }
   // Called by Load, before OnLoad: create the form's elements here.
   virtual void CreateElements() {}
   virtual void OnLoad() {}
@@ -141,6 +147,7 @@ class Form : public Element,
   int heightTwips_;
   ScaleMode scaleMode_ = ScaleMode::kTwips;
   int drawWidth_ = 1;
+  COLORREF backColor_ = ::GetSysColor(COLOR_BTNFACE);
   bool closing_ = false;
   std::vector<std::unique_ptr<Element>> elements_;
   std::vector<Label*> labels_;

@@ -13,7 +13,9 @@
 #include "resource_ids.h"
 #include "toolkit/MessageLoop.h"
 #include "ui/ControlIds.h"
+#include "ui/frmShadow.h"
 #include "ui/modFuentes.h"
+#include "ui/modRegionForm.h"
 
 namespace ui {
 namespace {
@@ -136,8 +138,14 @@ void FrmPrincipal::CreateElements() {
 }
 
 void FrmPrincipal::OnLoad() {
-  // 1. Centred on the screen.
+  // 1 to 4.
   Move((toolkit::Screen::Width() - Width()) / 2, (toolkit::Screen::Height() - Height()) / 2);
+  if (!InstallProgramFont(*this)) {
+    Unload();  // the close sequence ends the program
+    return;
+  }
+  ApplyWindowShape(*this);
+  ShadowWindow().Load();
   // 5 to 8.
   img32_->SetMaskColor(lvwIconos_->BackColor());
   try {
@@ -284,6 +292,7 @@ void FrmPrincipal::OnQueryUnload(std::int16_t& cancel, toolkit::UnloadMode) {
 }
 
 void FrmPrincipal::OnUnload() {
+  ZoomWindow(*this, true);
   RemoveProgramFont();
   img32_->Clear();
   for (toolkit::PictureBox* surface :
@@ -293,6 +302,7 @@ void FrmPrincipal::OnUnload() {
   }
   lvwIconos_->SetIcons(nullptr);
   lvwIconos_->SetSmallIcons(nullptr);
+  ShadowWindow().Unload();
   frame::ReleaseLibraries();
   frame::EndProgram(false);
 }

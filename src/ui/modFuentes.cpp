@@ -4,10 +4,40 @@
 
 #include <string>
 
+#include "frame/CResDll.h"
+#include "frame/CurrentError.h"
 #include "frame/RunState.h"
+#include "resource_ids.h"
 #include "toolkit/MessageLoop.h"
+#include "toolkit/ScopedHandle.h"
 
 namespace ui {
+
+bool InstallProgramFont(toolkit::Form& mainWindow) {
+  const std::string path = frame::programFolder + kProgramFontFile;
+  frame::ClearError();
+  const std::string data = frame::PictureLibrary().LoadDllData(IDR_FONT, "CUSTOM");
+  {
+    // Written over from the start and not shortened: a file left by an
+    // earlier run, or one that cannot be written, is used as it is.
+    toolkit::ScopedKernelHandle file(::CreateFileA(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ,
+                                                   nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL,
+                                                   nullptr));
+    if (file.get() != INVALID_HANDLE_VALUE) {
+      DWORD written = 0;
+      ::WriteFile(file.get(), data.data(), static_cast<DWORD>(data.size()), &written, nullptr);
+    } else {
+      file.release();
+    }
+  }
+  ::AddFontResourceA(path.c_str());
+  try {
+    mainWindow.SetFontName(kProgramFontFace);
+  } catch (const toolkit::ElementError&) {
+    // The system substituted another face; the check below says so.
+  }
+  return mainWindow.FontName() == kProgramFontFace;
+}
 
 void RemoveProgramFont() {
   const std::string path = frame::programFolder + kProgramFontFile;

@@ -2,10 +2,16 @@
 // program runs.
 #pragma once
 
+#include "toolkit/Form.h"
+
 namespace ui {
 
 inline constexpr char kProgramFontFile[] = "Morvane.ttf";
 inline constexpr char kProgramFontFace[] = "XFont Morvane";
+
+// Writes the font beside the program, adds it to the system's font table and
+// gives it to `mainWindow`; true when the face is usable afterwards.
+bool InstallProgramFont(toolkit::Form& mainWindow);
 
 // Takes the face out of the system's font table and deletes the font file
 // beside the program. Harmless when the font is not installed.

@@ -1,6 +1,53 @@
 #include "ui/modRegionForm.h"
 
+#include "frame/RunState.h"
+#include "toolkit/ScopedHandle.h"
+#include "toolkit/Screen.h"
+#include "ui/modFuentes.h"
+
 namespace ui {
+namespace {
+constexpr double kShapePoints = 240;
+constexpr char kShapeLetter[] = "A";
+}  // namespace
+
+HRGN ApplyWindowShape(toolkit::Form& window) {
+  try {
+    window.SetFontName(kProgramFontFace);
+    window.SetFontSize(kShapePoints);
+  } catch (const toolkit::ElementError&) {
+  }
+  HDC dc = window.hDC();
+  HRGN path = nullptr;
+  {
+    toolkit::ScopedSelect font(dc, window.Font());
+    int oldMode = ::SetBkMode(dc, TRANSPARENT);
+    ::BeginPath(dc);
+    ::TextOutA(dc, 0, 0, kShapeLetter, 1);
+    ::EndPath(dc);
+    ::SetBkMode(dc, oldMode);
+    path = ::PathToRegion(dc);
+  }
+  if (!path) return nullptr;
+  RECT box{};
+  ::GetRgnBox(path, &box);
+  HRGN shape = ::CreateRectRgnIndirect(&box);
+  ::CombineRgn(shape, shape, path, RGN_AND);
+  ::DeleteObject(path);
+  // From here on the system owns the region.
+  ::SetWindowRgn(window.Hwnd(), shape, TRUE);
+  return shape;
+}
+
+void ZoomWindow(toolkit::Form& window, bool closing) {
+  RECT own{toolkit::Screen::TwipsToPixelsX(window.Left()),
+           toolkit::Screen::TwipsToPixelsY(window.Top()),
+           toolkit::Screen::TwipsToPixelsX(window.Left() + window.Width()),
+           toolkit::Screen::TwipsToPixelsY(window.Top() + window.Height())};
+  const RECT& from = closing ? own : frame::startRect;
+  const RECT& to = closing ? frame::startRect : own;
+  ::DrawAnimatedRects(window.Hwnd(), IDANI_CAPTION, &from, &to);
+}
 
 void DragWindow(toolkit::Form& window) {
   ::ReleaseCapture();

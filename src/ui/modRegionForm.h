@@ -4,6 +4,15 @@
 
 namespace ui {
 
+// Cuts the window to the outline of the letter "A" of the program's face at
+// 240 points, drawn at the client origin. The system owns the region once it
+// is set; the returned handle is for information only.
+HRGN ApplyWindowShape(toolkit::Form& window);
+
+// The system's zoom animation between the start-up square (frame::startRect)
+// and the window: into the square when `closing`, out of it otherwise.
+void ZoomWindow(toolkit::Form& window, bool closing);
+
 // Hands the window to the system's own move loop, as a press on a caption
 // bar would; returns when the mouse button is released.
 void DragWindow(toolkit::Form& window);

@@ -162,7 +162,7 @@ TEST_F(MorvaneRun, AFolderWithOneTrailingSeparatorOpensTheMainWindow) {
        {target_.Path(), target_.Path() + "\\", target_.Path() + "/"}) {
     WriteWholeFile(FontFile(), "stale font");
     auto child = Start(arguments);
-    HWND main = child->WaitForWindow(kFormClass, kStartLimit);
+    HWND main = child->WaitForWindow(kFormClass, kStartLimit, "Morvane");
     ASSERT_NE(main, nullptr) << arguments;
     EXPECT_EQ(WindowText(main), StringOf("LANG_ENG.DLL", IDS_PRODUCT_NAME) + " - " +
                                     StringOf("LANG_ENG.DLL", IDS_PRODUCT_TAGLINE));

@@ -152,7 +152,9 @@ TEST(ShippingFolder, HoldsExactlyTheProgramItsLibrariesAndConfig) {
   ASSERT_NE(search, INVALID_HANDLE_VALUE);
   do {
     std::string name = entry.cFileName;
-    if (name != "." && name != "..") names.insert(name);
+    // Running the program from the build writes these two beside it.
+    const bool writtenByARun = name == "ARA.INI" || name == "Morvane.ttf";
+    if (name != "." && name != ".." && !writtenByARun) names.insert(name);
   } while (::FindNextFileA(search, &entry));
   ::FindClose(search);
   EXPECT_EQ(names, (std::set<std::string>{"Config.ini", "LANG_ENG.DLL", "LANG_ESP.DLL",

@@ -171,12 +171,15 @@ std::vector<HWND> ChildProcess::VisibleWindows() const {
   return search.found;
 }
 
-HWND ChildProcess::WaitForWindow(const std::string& className,
-                                 std::chrono::milliseconds limit) const {
+HWND ChildProcess::WaitForWindow(const std::string& className, std::chrono::milliseconds limit,
+                                 const std::string& titleStart) const {
   auto deadline = std::chrono::steady_clock::now() + limit;
   do {
     for (HWND window : VisibleWindows()) {
-      if (className.empty() || ClassName(window) == className) return window;
+      if ((className.empty() || ClassName(window) == className) &&
+          WindowText(window).rfind(titleStart, 0) == 0) {
+        return window;
+      }
     }
     std::this_thread::sleep_for(std::chrono::milliseconds(20));
   } while (std::chrono::steady_clock::now() < deadline);

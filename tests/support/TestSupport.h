@@ -70,8 +70,10 @@ class ChildProcess {
 
   // Visible top-level windows of the process.
   std::vector<HWND> VisibleWindows() const;
-  // Waits for a visible top-level window of the given class ("" = any).
-  HWND WaitForWindow(const std::string& className, std::chrono::milliseconds limit) const;
+  // Waits for a visible top-level window of the given class ("" = any)
+  // whose title starts with `titleStart`.
+  HWND WaitForWindow(const std::string& className, std::chrono::milliseconds limit,
+                     const std::string& titleStart = "") const;
 
  private:
   PROCESS_INFORMATION info_{};
