@@ -30,13 +30,6 @@ class FrmPrincipal : public toolkit::Form,
   void ShowApplyButton(bool visible);
   void ShowDefaultFolderIcon();
 
-  // The elements, for the program's other windows and for tests.
-  toolkit::ListView& lvwIconos() const { return *lvwIconos_; }
-  toolkit::PictureBox& picNuevoIcono() const { return *picNuevoIcono_; }
-  toolkit::PictureBox& picStatus() const { return *picStatus_; }
-  toolkit::PictureBox& picAplicar() const { return *picAplicar_; }
-  const folder::RecentList& Recent() const { return *recent_; }
-
  protected:
   void CreateElements() override;
   void OnLoad() override;

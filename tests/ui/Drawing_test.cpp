@@ -136,16 +136,21 @@ TEST_F(DrawingTest, TilesCoverTheClientAreaEdgeToEdge) {
   ::SelectObject(memory, old);
   ::DeleteDC(memory);
   ::ReleaseDC(nullptr, screen);
-
   canvas_.face->SetVisible(false);
   canvas_.wide->SetVisible(false);
-  ui::TileBitmap(canvas_.Hwnd(), texture);
-  EXPECT_EQ(FormPixel(0, 0), RGB(0, 0, 7));
-  EXPECT_EQ(FormPixel(150, 260), RGB(50, 60, 7));
-  RECT client;
-  ::GetClientRect(canvas_.Hwnd(), &client);
-  EXPECT_EQ(FormPixel(client.right - 1, client.bottom - 1),
-            RGB((client.right - 1) % kTile, (client.bottom - 1) % kTile, 7));
+
+  // 433 x 428: five columns and five rows, the last ones cut by the edges;
+  // 400 wide: the fifth column lies wholly outside.
+  for (SIZE client : {SIZE{433, 428}, SIZE{400, 428}}) {
+    const int tx = toolkit::Screen::TwipsPerPixelX(), ty = toolkit::Screen::TwipsPerPixelY();
+    canvas_.Resize(client.cx * tx, client.cy * ty);
+    ui::TileBitmap(canvas_.Hwnd(), texture);
+    EXPECT_EQ(FormPixel(0, 0), RGB(0, 0, 7));
+    EXPECT_EQ(FormPixel(150, 260), RGB(50, 60, 7));
+    EXPECT_EQ(FormPixel(client.cx - 1, client.cy - 1),
+              RGB((client.cx - 1) % kTile, (client.cy - 1) % kTile, 7))
+        << client.cx << " x " << client.cy;
+  }
   EXPECT_NE(::GetObjectType(texture), 0u) << "the bitmap stays its owner's";
   ::DeleteObject(texture);
 }
