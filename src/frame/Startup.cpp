@@ -9,6 +9,7 @@
 #include "frame/modFileExist.h"
 #include "frame/modINI.h"
 #include "resource_ids.h"
+#include "system/modColourDepth.h"
 #include "toolkit/MessageLoop.h"
 #include "toolkit/ScopedHandle.h"
 #include "ui/frmPrincipal.h"
@@ -112,6 +113,7 @@ void Startup() {
   if (!FolderExist(targetFolder)) EndProcessNow();
 
   folder::settingsFileExisted = FileExist(targetFolder + "\\" + folder::kSettingsFileName);
+  integration::CheckColourDepth();
   if (folder::settingsFileExisted) folder::ReadFolderSettings();
 
   ui::FrmPrincipal& main = ui::MainWindow();

@@ -48,8 +48,10 @@ SeenMessageBox Read(HWND box) {
 
 }  // namespace
 
-MessageBoxAnswerer::MessageBoxAnswerer(int answer)
-    : answer_(answer), watcher_([this] { Watch(); }) {}
+MessageBoxAnswerer::MessageBoxAnswerer(int answer) : MessageBoxAnswerer(std::vector<int>{answer}) {}
+
+MessageBoxAnswerer::MessageBoxAnswerer(std::vector<int> answers)
+    : answers_(std::move(answers)), watcher_([this] { Watch(); }) {}
 
 MessageBoxAnswerer::~MessageBoxAnswerer() {
   stop_ = true;
@@ -67,12 +69,15 @@ void MessageBoxAnswerer::Watch() {
     for (HWND box : VisibleDialogsOfThisProcess()) {
       if (std::find(answered.begin(), answered.end(), box) != answered.end()) continue;
       SeenMessageBox seen = Read(box);
+      size_t position = 0;
       {
         std::lock_guard lock(mutex_);
+        position = seen_.size();
         seen_.push_back(std::move(seen));
       }
       answered.push_back(box);
-      ::PostMessageA(box, WM_COMMAND, MAKEWPARAM(answer_, BN_CLICKED), 0);
+      const int answer = answers_[std::min(position, answers_.size() - 1)];
+      ::PostMessageA(box, WM_COMMAND, MAKEWPARAM(answer, BN_CLICKED), 0);
     }
     std::erase_if(answered, [](HWND box) { return !::IsWindow(box); });
     std::this_thread::sleep_for(kPollInterval);

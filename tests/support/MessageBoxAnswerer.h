@@ -22,6 +22,8 @@ struct SeenMessageBox {
 class MessageBoxAnswerer {
  public:
   explicit MessageBoxAnswerer(int answer);  // IDYES, IDNO, IDOK
+  // The n-th box gets answers[n]; later boxes get the last one.
+  explicit MessageBoxAnswerer(std::vector<int> answers);
   ~MessageBoxAnswerer();
   MessageBoxAnswerer(const MessageBoxAnswerer&) = delete;
   MessageBoxAnswerer& operator=(const MessageBoxAnswerer&) = delete;
@@ -31,7 +33,7 @@ class MessageBoxAnswerer {
  private:
   void Watch();
 
-  int answer_;
+  std::vector<int> answers_;
   std::atomic<bool> stop_{false};
   mutable std::mutex mutex_;
   std::vector<SeenMessageBox> seen_;
