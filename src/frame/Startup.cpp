@@ -14,6 +14,8 @@
 #include "toolkit/ScopedHandle.h"
 #include "ui/frmPrincipal.h"
 #include "ui/frmShadow.h"
+#include "ui/frmSplash.h"
+#include "ui/modRegionForm.h"
 
 namespace frame {
 namespace {
@@ -116,6 +118,13 @@ void Startup() {
   integration::CheckColourDepth();
   if (folder::settingsFileExisted) folder::ReadFolderSettings();
 
+  ui::FrmSplash& splash = ui::AboutWindow();
+  splash.Load();
+  toolkit::DoEvents();
+  ui::ZoomWindow(splash, false);
+  splash.Show();
+  toolkit::DoEvents();
+
   ui::FrmPrincipal& main = ui::MainWindow();
   main.Load();
   toolkit::DoEvents();
@@ -127,6 +136,8 @@ void Startup() {
   toolkit::DoEvents();
   toolkit::DoEvents();
 
+  splash.Unload();
+  toolkit::DoEvents();
   startingUp = false;
 }
 

@@ -14,6 +14,7 @@
 #include "toolkit/MessageLoop.h"
 #include "ui/ControlIds.h"
 #include "ui/frmShadow.h"
+#include "ui/frmSplash.h"
 #include "ui/modFuentes.h"
 #include "ui/modRegionForm.h"
 
@@ -134,6 +135,9 @@ void FrmPrincipal::CreateElements() {
     ShowApplyButton(true);
   };
   cboARA_->onClick = [this] { recent_->OnChoose(); };
+  lblSensible_->mouse.onMouseDown = [this](const toolkit::MouseEvent&) { DragWindow(*this); };
+  lblSensible_->mouse.onDblClick = [] { AboutWindow().ShowModal(); };
+  lblHelp_->mouse.onClick = [] { AboutWindow().ShowModal(); };
   cboARA_->onKeyPress = [this](char key) { recent_->OnKeyPress(key); };
 }
 
@@ -303,6 +307,7 @@ void FrmPrincipal::OnUnload() {
   lvwIconos_->SetIcons(nullptr);
   lvwIconos_->SetSmallIcons(nullptr);
   ShadowWindow().Unload();
+  AboutWindow().Unload();
   frame::ReleaseLibraries();
   frame::EndProgram(false);
 }
