@@ -29,4 +29,10 @@ xdotool mousemove 483 370 sleep 0.5 mousemove 5 5 sleep 1
 mkdir -p "$repo_root/docs"
 # The window is centred on the 1024 x 768 screen; the margin shows its shadow.
 /usr/bin/import -window root -crop 597x448+213+160 +repage "$repo_root/docs/main-window.png"
-echo "docs/main-window.png"
+
+# The help link opens the about window, centred too.
+xdotool mousemove 766 227 click 1 sleep 1.5 mousemove 5 5 sleep 0.5
+/usr/bin/import -window root -crop 442x323+291+222 +repage "$repo_root/docs/about-window.png"
+# Its OK button, then the main window's exit button: an orderly end.
+xdotool mousemove 654 525 click 1 sleep 1 mousemove 755 572 click 1 sleep 1
+echo "docs/main-window.png docs/about-window.png"
