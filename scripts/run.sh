@@ -42,7 +42,10 @@ if [ -n "$headless" ]; then
     screenshot=${MORVANE_SCREENSHOT:-$PWD/morvane-screenshot.png}
     /usr/bin/import -window root "$screenshot"
     echo "Screenshot: $screenshot"
-    # Nobody can use a window on a virtual display: end the run here.
+    # Nobody can use a window on a virtual display: ask Morvane to close, so
+    # that it ends in order (its font file goes), and stop it if it will not.
+    wine taskkill /im Morvane.exe >/dev/null 2>&1 || true
+    for _ in 1 2 3 4 5; do kill -0 "$morvane" 2>/dev/null || break; sleep 1; done
     kill "$morvane" 2>/dev/null || true
   else
     echo "Morvane ended before a window showed."
