@@ -50,4 +50,9 @@ CResDll& PictureLibrary();
 bool LibrariesHeld();
 void ReleaseLibraries();
 
+// String `id` of the language library.
+inline std::string LanguageText(std::int32_t id) {
+  return LanguageLibrary().LoadDllString(id);
+}
+
 }  // namespace frame

@@ -23,17 +23,6 @@ constexpr std::array<KindFont, 3> kKindFonts = {{
     {"PictureBox", 9, true},
 }};
 
-// Runs one property assignment; a failing one is stepped over.
-template <typename Assignment>
-bool TryAssign(Assignment assign) {
-  try {
-    assign();
-    return true;
-  } catch (const toolkit::ElementError&) {
-    return false;
-  }
-}
-
 }  // namespace
 
 std::string TextBeforeNul(const std::string& text) {
@@ -46,15 +35,15 @@ void ApplyInterfaceFont(const toolkit::ElementOwner& window) {
   if (face.empty()) face = kDefaultFace;
 
   for (toolkit::Element* element : window.Elements()) {
-    if (!TryAssign([&] { element->SetFontName(face); })) {
+    if (!toolkit::TryProperty([&] { element->SetFontName(face); })) {
       for (const char* fallback : kFallbackFaces) {
-        if (TryAssign([&] { element->SetFontName(fallback); })) break;
+        if (toolkit::TryProperty([&] { element->SetFontName(fallback); })) break;
       }
     }
     for (const KindFont& kindFont : kKindFonts) {
       if (element->Kind() != kindFont.kind) continue;
-      TryAssign([&] { element->SetFontSize(kindFont.points); });
-      TryAssign([&] { element->SetFontBold(kindFont.bold); });
+      toolkit::TryProperty([&] { element->SetFontSize(kindFont.points); });
+      toolkit::TryProperty([&] { element->SetFontBold(kindFont.bold); });
     }
   }
 }

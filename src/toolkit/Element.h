@@ -76,6 +76,18 @@ class Element {
   Canvas* parent_ = nullptr;
 };
 
+// Runs one property assignment the way every set-up of this program does: an
+// assignment the element refuses is stepped over. True when it took.
+template <typename Assignment>
+bool TryProperty(Assignment assign) {
+  try {
+    assign();
+    return true;
+  } catch (const ElementError&) {
+    return false;
+  }
+}
+
 using ElementList = std::vector<Element*>;
 
 // Anything that holds elements in a fixed order: the windows of the program.

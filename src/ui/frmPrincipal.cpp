@@ -19,6 +19,7 @@
 #include "ui/modRegionForm.h"
 
 namespace ui {
+using frame::LanguageText;
 namespace {
 
 using toolkit::TwipsRect;
@@ -39,10 +40,6 @@ constexpr LONG_PTR kRefuseClose = 100;
 // Tool tips of labels are areas of the form, known by these numbers.
 constexpr UINT_PTR kSensibleTipId = 1;
 constexpr UINT_PTR kHelpTipId = 2;
-
-std::string LanguageText(int id) {
-  return frame::LanguageLibrary().LoadDllString(id);
-}
 
 }  // namespace
 
@@ -152,10 +149,7 @@ void FrmPrincipal::OnLoad() {
   ShadowWindow().Load();
   // 5 to 8.
   img32_->SetMaskColor(lvwIconos_->BackColor());
-  try {
-    picStatus_->SetFontSize(kStatusFontPoints);
-  } catch (const toolkit::ElementError&) {
-  }
+  toolkit::TryProperty([this] { picStatus_->SetFontSize(kStatusFontPoints); });
   ::CoInitialize(nullptr);
   lvwIconos_->ArrangeFromTop();
   // 9, 10.

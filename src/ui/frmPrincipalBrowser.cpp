@@ -28,15 +28,6 @@ constexpr LPARAM kDefaultSpacing = -1;
 constexpr std::int32_t kChooserFlags =
     OFN_EXPLORER | OFN_FILEMUSTEXIST | OFN_PATHMUSTEXIST | OFN_HIDEREADONLY;
 
-// One step of a routine that steps over failures.
-template <typename Step>
-void Try(Step step) {
-  try {
-    step();
-  } catch (const toolkit::ElementError&) {
-  }
-}
-
 }  // namespace
 
 void FrmPrincipal::ShowProgress(int position, int count) {
@@ -64,9 +55,9 @@ void FrmPrincipal::CargarIconosdeArchivo() {
   const std::int32_t count = icons::GetIconCount(file);
   if (count < 1) {
     toolkit::Picture shellIcon = icons::GetShellIconPicture(file, icons::kLargeShellIcon);
-    Try([&] { img32_->Add("c0", shellIcon); });
+    toolkit::TryProperty([&] { img32_->Add("c0", shellIcon); });
     lvwIconos_->SetIcons(img32_);
-    Try([&] { lvwIconos_->AddItem("a1", "", 1); });
+    toolkit::TryProperty([&] { lvwIconos_->AddItem("a1", "", 1); });
     frame::iconListEmpty = true;
     frame::loadingIcons = false;
     return;
@@ -82,7 +73,7 @@ void FrmPrincipal::CargarIconosdeArchivo() {
     icons::DrawIconInPicture(icon, *picTMP_, 0, 0);
     picTMP_->SetPicture(picTMP_->Image());
     picTMP_->Refresh();
-    Try([&] { img32_->Add("c" + std::to_string(i), picTMP_->GetPicture()); });
+    toolkit::TryProperty([&] { img32_->Add("c" + std::to_string(i), picTMP_->GetPicture()); });
   }
   frame::loadingIcons = false;
   icons::ReleaseIcon(icon);
@@ -90,7 +81,7 @@ void FrmPrincipal::CargarIconosdeArchivo() {
   lvwIconos_->SetIcons(img32_);
   for (std::int32_t j = 1; j <= count; ++j) {
     // Items whose image could not be made are refused by the list.
-    Try([&] { lvwIconos_->AddItem("a" + std::to_string(j), "", j); });
+    toolkit::TryProperty([&] { lvwIconos_->AddItem("a" + std::to_string(j), "", j); });
     frame::iconListEmpty = false;
   }
 }

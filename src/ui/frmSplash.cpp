@@ -12,6 +12,7 @@
 #include "ui/modTileBMP.h"
 
 namespace ui {
+using frame::LanguageText;
 namespace {
 
 using toolkit::TwipsRect;
@@ -26,18 +27,6 @@ constexpr float kEtchedLineTop = 50;
 constexpr double kSplashTextPoints = 16;
 constexpr TwipsRect kSplashTextPlace{4395, 1665, 2100, 4335};
 constexpr char kLineBreak[] = "\r\n";
-
-std::string LanguageText(int id) {
-  return frame::LanguageLibrary().LoadDllString(id);
-}
-
-template <typename Step>
-void Try(Step step) {
-  try {
-    step();
-  } catch (const toolkit::ElementError&) {
-  }
-}
 
 }  // namespace
 
@@ -96,8 +85,8 @@ void FrmSplash::OnLoad() {
     DisableButtons();
     lblInfo_->Move(kSplashTextPlace);
     lblInfo_->SetCaption(LanguageText(IDS_SPLASH_INFO));
-    Try([this] { lblInfo_->SetFontBold(true); });
-    Try([this] { lblInfo_->SetFontSize(kSplashTextPoints); });
+    toolkit::TryProperty([this] { lblInfo_->SetFontBold(true); });
+    toolkit::TryProperty([this] { lblInfo_->SetFontSize(kSplashTextPoints); });
     lblInfo_->SetForeColor(kBlue);
     lblInfo_->SetVisible(true);
     for (toolkit::PictureBox* hidden :

@@ -31,11 +31,9 @@ bool InstallProgramFont(toolkit::Form& mainWindow) {
     }
   }
   ::AddFontResourceA(path.c_str());
-  try {
-    mainWindow.SetFontName(kProgramFontFace);
-  } catch (const toolkit::ElementError&) {
-    // The system substituted another face; the check below says so.
-  }
+  // Refused when the system would substitute another face; the check below
+  // says so.
+  toolkit::TryProperty([&] { mainWindow.SetFontName(kProgramFontFace); });
   return mainWindow.FontName() == kProgramFontFace;
 }
 

@@ -12,11 +12,10 @@ constexpr char kShapeLetter[] = "A";
 }  // namespace
 
 HRGN ApplyWindowShape(toolkit::Form& window) {
-  try {
+  toolkit::TryProperty([&] {
     window.SetFontName(kProgramFontFace);
     window.SetFontSize(kShapePoints);
-  } catch (const toolkit::ElementError&) {
-  }
+  });
   HDC dc = window.hDC();
   HRGN path = nullptr;
   {
