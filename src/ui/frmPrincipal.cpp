@@ -133,8 +133,8 @@ void FrmPrincipal::CreateElements() {
   };
   cboARA_->onClick = [this] { recent_->OnChoose(); };
   lblSensible_->mouse.onMouseDown = [this](const toolkit::MouseEvent&) { DragWindow(*this); };
-  lblSensible_->mouse.onDblClick = [] { AboutWindow().ShowModal(); };
-  lblHelp_->mouse.onClick = [] { AboutWindow().ShowModal(); };
+  lblSensible_->mouse.onDblClick = OpenAboutWindow;
+  lblHelp_->mouse.onClick = OpenAboutWindow;
   cboARA_->onKeyPress = [this](char key) { recent_->OnKeyPress(key); };
 }
 

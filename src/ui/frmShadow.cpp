@@ -21,9 +21,10 @@ FrmShadow& ShadowWindow() {
   return shadow;
 }
 
-// Not listed in the taskbar: the user never works in it.
+// Not listed in the taskbar: the user never works in it. It may be activated
+// all the same: a click on it is what brings the main window back in front.
 DWORD FrmShadow::ExtendedStyle() const {
-  return WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE;
+  return WS_EX_TOOLWINDOW;
 }
 
 void FrmShadow::CreateElements() {
@@ -35,6 +36,7 @@ void FrmShadow::OnLoad() {
   ApplyWindowShape(*this);
 }
 
+// Without SWP_NOACTIVATE the main window takes the activation as well.
 void FrmShadow::OnActivate() {
   if (owner_.Loaded()) ::SetWindowPos(owner_.Hwnd(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
 }

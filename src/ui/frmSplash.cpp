@@ -38,6 +38,10 @@ FrmSplash& AboutWindow() {
   return window;
 }
 
+void OpenAboutWindow() {
+  if (!AboutWindow().Loaded()) AboutWindow().ShowModal();
+}
+
 void FrmSplash::CreateElements() {
   txtInfo_ = &AddTextBox("txtInfo", {135, 945, 4020, 3795}, ids::txtInfo,
                          toolkit::TextBox::Lines::kMultiple);

@@ -47,4 +47,9 @@ class FrmSplash : public toolkit::Form {
 // The program's about window; created on first use.
 FrmSplash& AboutWindow();
 
+// Opens the about window modally. While the same window still stands as the
+// splash (start-up lets messages run as it lists the icons), the request is
+// ignored: the splash already shows the information and start-up closes it.
+void OpenAboutWindow();
+
 }  // namespace ui

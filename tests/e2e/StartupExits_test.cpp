@@ -71,12 +71,16 @@ class MorvaneRun : public ::testing::Test {
     return child;
   }
 
-  // Runs to the end, failing if a window shows on the way.
-  void ExpectSilentEnd(const std::string& arguments) {
+  // Runs to the end, failing if a window other than the splash shows on the
+  // way (the splash only when it may).
+  void ExpectSilentEnd(const std::string& arguments, bool splashMayShow = false) {
     auto child = Start(arguments);
     auto deadline = std::chrono::steady_clock::now() + kStartLimit;
     while (!child->WaitForExit(20ms) && std::chrono::steady_clock::now() < deadline) {
-      ASSERT_TRUE(child->VisibleWindows().empty()) << "a window showed for: " << arguments;
+      for (HWND window : child->VisibleWindows()) {
+        ASSERT_TRUE(splashMayShow && WindowText(window) == "frmSplash")
+            << WindowText(window) << " showed for: " << arguments;
+      }
     }
     ASSERT_EQ(child->ExitCode(), 0u) << arguments;
   }
@@ -145,6 +149,26 @@ TEST_F(MorvaneRun, AnUnloadableLanguageEndsSilently) {
   ::DeleteFileA(program_.File("LANG_ENG.DLL").c_str());
   ::DeleteFileA(program_.File("LANG_ESP.DLL").c_str());
   ExpectSilentEnd("");
+}
+
+// Resource.DLL without the font: the main window gives up before it shows.
+TEST_F(MorvaneRun, WithoutItsFontTheProgramEndsSilentlyAndInOrder) {
+  ASSERT_TRUE(::CopyFileA((testing_support::TestFolder() + "NOFONT.DLL").c_str(),
+                          program_.File("Resource.DLL").c_str(), FALSE));
+  ExpectSilentEnd(target_.Path(), true);
+  EXPECT_FALSE(PathExists(FontFile())) << "ended through the close sequence";
+}
+
+TEST_F(MorvaneRun, AReadOnlyFontFileFromAnEarlierRunIsUsed) {
+  frame::CResDll pictures;
+  pictures.DllName(program_.File("Resource.DLL"));
+  WriteWholeFile(FontFile(), pictures.LoadDllData(6000));
+  ASSERT_TRUE(::SetFileAttributesA(FontFile().c_str(), FILE_ATTRIBUTE_READONLY));
+  auto child = Start(target_.Path());
+  HWND main = child->WaitForWindow(kFormClass, kStartLimit, "Morvane");
+  ASSERT_NE(main, nullptr);
+  ::PostMessageA(main, WM_CLOSE, 0, 0);
+  EXPECT_TRUE(child->WaitForExit(kStartLimit));
 }
 
 TEST_F(MorvaneRun, ATargetThatIsNoFolderEndsAtOnceWithoutCleanUp) {
