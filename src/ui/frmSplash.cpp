@@ -42,6 +42,13 @@ void OpenAboutWindow() {
   if (!AboutWindow().Loaded()) AboutWindow().ShowModal();
 }
 
+// The splash stays in front of the main window, which shows while the icons
+// are still loading, so that it can be read and clicked away until start-up
+// closes it. The about window is an ordinary window.
+DWORD FrmSplash::ExtendedStyle() const {
+  return frame::startingUp ? WS_EX_TOPMOST : 0;
+}
+
 void FrmSplash::CreateElements() {
   txtInfo_ = &AddTextBox("txtInfo", {135, 945, 4020, 3795}, ids::txtInfo,
                          toolkit::TextBox::Lines::kMultiple);

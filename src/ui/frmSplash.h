@@ -19,6 +19,7 @@ class FrmSplash : public toolkit::Form {
   void Tile();
 
  protected:
+  DWORD ExtendedStyle() const override;
   void CreateElements() override;
   void OnLoad() override;
   void OnUnload() override;

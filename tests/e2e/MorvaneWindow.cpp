@@ -14,6 +14,8 @@ void MorvaneWindowTest::Start() {
   main_ = child_->WaitForWindow(kFormClass, kLimit, "Morvane");
   ASSERT_NE(main_, nullptr);
   WaitUntil([this] { return Count() >= iconsToList_; });
+  // Start-up ends by closing the splash, which stands in front until then.
+  WaitUntil([this] { return child_->WaitForWindow(kFormClass, 0ms, "frmSplash") == nullptr; });
 }
 
 void MorvaneWindowTest::TearDown() {

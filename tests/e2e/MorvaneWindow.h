@@ -24,7 +24,8 @@ class MorvaneWindowTest : public ::testing::Test {
   void SetUp() override { Start(); }
   void TearDown() override;
 
-  // Starts the program and waits for its window and the end of the listing.
+  // Starts the program and waits for its window, the end of the listing and
+  // the end of start-up.
   void Start();
   // Asks the program to close and waits for its end.
   bool Close();
