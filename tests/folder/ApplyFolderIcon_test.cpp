@@ -5,13 +5,13 @@
 
 #include "FolderFixture.h"
 #include "resource_ids.h"
-#include "support/MessageBoxAnswerer.h"
+#include "support/DialogAnswerer.h"
 #include "support/ShellNotifyRecorder.h"
 #include "toolkit/MessageLoop.h"
 
 namespace {
 
-using testing_support::MessageBoxAnswerer;
+using testing_support::DialogAnswerer;
 using testing_support::ReadWholeFile;
 using testing_support::ShellNotification;
 using testing_support::WriteWholeFile;
@@ -44,7 +44,7 @@ class ApplyFolderIconTest : public FolderFixture {
             {SHCNE_UPDATEIMAGE, SHCNF_DWORD, std::to_string(SystemIconIndex(folder_.Path())), "0"},
             {SHCNE_ASSOCCHANGED, 0, "", ""}};
   }
-  void ExpectOneQuestion(const MessageBoxAnswerer& answerer, int promptId) const {
+  void ExpectOneQuestion(const DialogAnswerer& answerer, int promptId) const {
     auto seen = answerer.Seen();
     ASSERT_EQ(seen.size(), 1u);
     EXPECT_EQ(seen[0].text, Text(promptId));
@@ -57,7 +57,7 @@ class ApplyFolderIconTest : public FolderFixture {
 
 TEST_F(ApplyFolderIconTest, YesWritesMarksAndAnnouncesTheFolder) {
   {
-    MessageBoxAnswerer user(IDYES);
+    DialogAnswerer user(IDYES);
     folder::ApplyFolderIcon(true);
     ExpectOneQuestion(user, IDS_APPLY_PROMPT);
   }
@@ -68,7 +68,7 @@ TEST_F(ApplyFolderIconTest, YesWritesMarksAndAnnouncesTheFolder) {
 
   auto expected = FolderNotifications();
   expected.insert(expected.begin(), {SHCNE_ATTRIBUTES, kPathsHandled, SettingsFile(), ""});
-  EXPECT_EQ(shell_.Calls(), expected);
+  EXPECT_EQ(shell_.calls, expected);
 }
 
 TEST_F(ApplyFolderIconTest, NoOrAnEmptyIconListChangesNothingAndSendsNothing) {
@@ -78,17 +78,17 @@ TEST_F(ApplyFolderIconTest, NoOrAnEmptyIconListChangesNothingAndSendsNothing) {
   ::SetFileAttributesA(folder_.Path().c_str(), FILE_ATTRIBUTE_HIDDEN);
   const DWORD fileBefore = Attributes(SettingsFile()), folderBefore = Attributes(folder_.Path());
   {
-    MessageBoxAnswerer user(IDNO);
+    DialogAnswerer user(IDNO);
     folder::ApplyFolderIcon(true);
     ExpectOneQuestion(user, IDS_APPLY_PROMPT);
   }
   {
-    MessageBoxAnswerer user(IDNO);
+    DialogAnswerer user(IDNO);
     folder::RemoveFolderIcon();
     ExpectOneQuestion(user, IDS_REMOVE_PROMPT);
   }
   {
-    MessageBoxAnswerer user(IDYES);
+    DialogAnswerer user(IDYES);
     frame::iconListEmpty = true;
     folder::ApplyFolderIcon(true);
     folder::ApplyFolderIcon(false);
@@ -97,7 +97,7 @@ TEST_F(ApplyFolderIconTest, NoOrAnEmptyIconListChangesNothingAndSendsNothing) {
   EXPECT_EQ(ReadWholeFile(SettingsFile()), bytes);
   EXPECT_EQ(Attributes(SettingsFile()), fileBefore);
   EXPECT_EQ(Attributes(folder_.Path()), folderBefore);
-  EXPECT_TRUE(shell_.Calls().empty());
+  EXPECT_TRUE(shell_.calls.empty());
 }
 
 TEST_F(ApplyFolderIconTest, TheFileTakesTheFoldersAttributesNotItsOwn) {
@@ -120,7 +120,7 @@ TEST_F(ApplyFolderIconTest, YesToRemovalDeletesTheFilesAndResetsTheFolder) {
   ::SetFileAttributesA(SettingsFile().c_str(), kCustomisedFile | FILE_ATTRIBUTE_READONLY);
   WriteWholeFile(folder_ / "morvane.ico", "icon");
   WriteWholeFile(folder_ / "other.ico", "icon");
-  MessageBoxAnswerer user(IDYES);
+  DialogAnswerer user(IDYES);
   folder::RemoveFolderIcon();
 
   ExpectOneQuestion(user, IDS_REMOVE_PROMPT);
@@ -128,16 +128,16 @@ TEST_F(ApplyFolderIconTest, YesToRemovalDeletesTheFilesAndResetsTheFolder) {
   EXPECT_FALSE(testing_support::PathExists(folder_ / "morvane.ico"));
   EXPECT_TRUE(testing_support::PathExists(folder_ / "other.ico"));
   EXPECT_EQ(Attributes(folder_.Path()), DWORD{FILE_ATTRIBUTE_DIRECTORY});
-  const auto calls = shell_.Calls();
+  const auto calls = shell_.calls;
   EXPECT_EQ(std::vector(calls.end() - 3, calls.end()), FolderNotifications());
 }
 
 TEST_F(ApplyFolderIconTest, RemovalWithoutAFileStillResetsAndAnnounces) {
   ::SetFileAttributesA(folder_.Path().c_str(), FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_HIDDEN);
-  MessageBoxAnswerer user(IDYES);
+  DialogAnswerer user(IDYES);
   folder::RemoveFolderIcon();
   EXPECT_EQ(Attributes(folder_.Path()), DWORD{FILE_ATTRIBUTE_DIRECTORY});
-  EXPECT_EQ(shell_.Calls(), FolderNotifications());
+  EXPECT_EQ(shell_.calls, FolderNotifications());
 }
 
 // A window of this process registered for the shell's notifications, which

@@ -8,7 +8,7 @@
 #include "folder/FolderSettings.h"
 #include "frame/CResDll.h"
 #include "frame/RunState.h"
-#include "support/MessageBoxAnswerer.h"
+#include "support/DialogAnswerer.h"
 #include "support/TestSupport.h"
 
 int main(int argc, char** argv) {
@@ -21,7 +21,7 @@ int main(int argc, char** argv) {
   if (action == "apply") {
     folder::ApplyFolderIcon(false);
   } else if (action == "remove") {
-    testing_support::MessageBoxAnswerer user(IDYES);
+    testing_support::DialogAnswerer user(IDYES);
     folder::RemoveFolderIcon();
   } else {
     return kUsageError;

@@ -8,7 +8,6 @@
 #include "icons/modExtractIcon.h"
 #include "support/Pixels.h"
 #include "support/TestSupport.h"
-#include "support/TestWindow.h"
 
 namespace {
 

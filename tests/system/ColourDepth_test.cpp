@@ -9,13 +9,13 @@
 #include "folder/modRegistry.h"
 #include "frame/CResDll.h"
 #include "resource_ids.h"
-#include "support/MessageBoxAnswerer.h"
+#include "support/DialogAnswerer.h"
 #include "support/RegistryGuard.h"
 #include "support/TestSupport.h"
 
 namespace {
 
-using testing_support::MessageBoxAnswerer;
+using testing_support::DialogAnswerer;
 using testing_support::StoreRegistryValue;
 
 constexpr char kKey[] = "Control Panel\\Desktop\\WindowMetrics";
@@ -45,7 +45,7 @@ class ColourDepthCheck : public ::testing::Test {
   }
   // How many questions were asked when the check ran with `answer`.
   size_t QuestionsAsked(int answer) {
-    MessageBoxAnswerer user(answer);
+    DialogAnswerer user(answer);
     integration::CheckColourDepth();
     return user.Seen().size();
   }
@@ -70,7 +70,7 @@ TEST_F(ColourDepthCheck, YesRaisesAnExistingIconDepthToTheTextSixteenThenAsksToR
   Display(8);
   IconDepth("4");
   {
-    MessageBoxAnswerer user({IDYES, IDNO});
+    DialogAnswerer user({IDYES, IDNO});
     integration::CheckColourDepth();
     ASSERT_EQ(user.Seen().size(), 2u);
     EXPECT_EQ(user.Seen()[1].text,
@@ -88,7 +88,7 @@ TEST_F(ColourDepthCheck, YesRaisesAnExistingIconDepthToTheTextSixteenThenAsksToR
 
   // A missing value stays missing.
   NoIconDepth();
-  MessageBoxAnswerer user({IDYES, IDNO});
+  DialogAnswerer user({IDYES, IDNO});
   integration::CheckColourDepth();
   EXPECT_EQ(user.Seen().size(), 2u);
   EXPECT_EQ(integration::GetShellIconDepth(), 0);

@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
+#include "support/Pixels.h"
 #include "support/TestSupport.h"
-#include "support/TestWindow.h"
 #include "toolkit/Form.h"
 #include "toolkit/MessageLoop.h"
 

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "support/TestWindow.h"
+#include "support/Pixels.h"
 #include "toolkit/Form.h"
 #include "toolkit/MessageLoop.h"
 #include "toolkit/Screen.h"

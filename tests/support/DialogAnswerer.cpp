@@ -1,4 +1,4 @@
-#include "support/MessageBoxAnswerer.h"
+#include "support/DialogAnswerer.h"
 
 #include <algorithm>
 #include <chrono>
@@ -8,7 +8,6 @@
 namespace testing_support {
 namespace {
 
-constexpr char kDialogClass[] = "#32770";
 constexpr auto kPollInterval = std::chrono::milliseconds(10);
 
 std::vector<HWND> VisibleDialogsOfThisProcess() {
@@ -18,7 +17,7 @@ std::vector<HWND> VisibleDialogsOfThisProcess() {
         DWORD owner = 0;
         ::GetWindowThreadProcessId(window, &owner);
         if (owner == ::GetCurrentProcessId() && ::IsWindowVisible(window) &&
-            ClassName(window) == kDialogClass) {
+            ClassName(window) == "#32770") {
           reinterpret_cast<std::vector<HWND>*>(data)->push_back(window);
         }
         return TRUE;
@@ -27,10 +26,10 @@ std::vector<HWND> VisibleDialogsOfThisProcess() {
   return found;
 }
 
-SeenMessageBox Read(HWND box) {
-  SeenMessageBox seen;
-  seen.title = WindowText(box);
-  for (HWND child : Children(box)) {
+SeenDialog Read(HWND dialog) {
+  SeenDialog seen;
+  seen.title = WindowText(dialog);
+  for (HWND child : Children(dialog)) {
     const std::string kind = ClassName(child);
     if (kind == "Button") {
       seen.buttons.push_back(::GetDlgCtrlID(child));
@@ -48,38 +47,48 @@ SeenMessageBox Read(HWND box) {
 
 }  // namespace
 
-MessageBoxAnswerer::MessageBoxAnswerer(int answer) : MessageBoxAnswerer(std::vector<int>{answer}) {}
+void PressButton(HWND dialog, int id) {
+  // Posted, so that the dialog's thread handles it inside its own loop.
+  ::PostMessageA(dialog, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED),
+                 reinterpret_cast<LPARAM>(::GetDlgItem(dialog, id)));
+}
 
-MessageBoxAnswerer::MessageBoxAnswerer(std::vector<int> answers)
-    : answers_(std::move(answers)), watcher_([this] { Watch(); }) {}
+DialogAnswerer::DialogAnswerer(std::function<void(HWND)> act)
+    : act_([act = std::move(act)](HWND dialog, size_t) { act(dialog); }),
+      watcher_([this] { Watch(); }) {}
 
-MessageBoxAnswerer::~MessageBoxAnswerer() {
+DialogAnswerer::DialogAnswerer(std::vector<int> answers)
+    : act_([answers = std::move(answers)](HWND dialog, size_t position) {
+        PressButton(dialog, answers[std::min(position, answers.size() - 1)]);
+      }),
+      watcher_([this] { Watch(); }) {}
+
+DialogAnswerer::~DialogAnswerer() {
   stop_ = true;
   watcher_.join();
 }
 
-std::vector<SeenMessageBox> MessageBoxAnswerer::Seen() const {
+std::vector<SeenDialog> DialogAnswerer::Seen() const {
   std::lock_guard lock(mutex_);
   return seen_;
 }
 
-void MessageBoxAnswerer::Watch() {
+void DialogAnswerer::Watch() {
   std::vector<HWND> answered;
   while (!stop_) {
-    for (HWND box : VisibleDialogsOfThisProcess()) {
-      if (std::find(answered.begin(), answered.end(), box) != answered.end()) continue;
-      SeenMessageBox seen = Read(box);
+    for (HWND dialog : VisibleDialogsOfThisProcess()) {
+      if (std::find(answered.begin(), answered.end(), dialog) != answered.end()) continue;
+      answered.push_back(dialog);
+      SeenDialog seen = Read(dialog);
       size_t position = 0;
       {
         std::lock_guard lock(mutex_);
         position = seen_.size();
         seen_.push_back(std::move(seen));
       }
-      answered.push_back(box);
-      const int answer = answers_[std::min(position, answers_.size() - 1)];
-      ::PostMessageA(box, WM_COMMAND, MAKEWPARAM(answer, BN_CLICKED), 0);
+      act_(dialog, position);
     }
-    std::erase_if(answered, [](HWND box) { return !::IsWindow(box); });
+    std::erase_if(answered, [](HWND dialog) { return !::IsWindow(dialog); });
     std::this_thread::sleep_for(kPollInterval);
   }
 }
