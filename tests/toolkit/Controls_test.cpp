@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "support/Pixels.h"
-#include "support/TestSupport.h"
 #include "toolkit/Form.h"
 #include "toolkit/MessageLoop.h"
 
@@ -64,7 +63,6 @@ TEST_F(ControlsTest, TextBoxReportsTypingAndKeepsLineBreaks) {
   EXPECT_EQ(form_.text->Text(), "one\r\ntwo");
   ::SendMessageA(form_.text->Hwnd(), WM_MOUSEMOVE, 0, MAKELPARAM(3, 3));
   EXPECT_EQ(form_.log, (Log{"key x", "change x", "text move"}));
-  EXPECT_EQ(testing_support::WindowText(form_.text->Hwnd()), "one\r\ntwo");
 }
 
 TEST_F(ControlsTest, ComboBoxRaisesItsChooseEventAlsoWhenTheProgramChooses) {
@@ -110,15 +108,14 @@ TEST_F(ControlsTest, ClickingAnItemReportsItsPosition) {
 }
 
 TEST_F(ControlsTest, TheMaskColourOfAnImageListIsTransparent) {
+  // A blue square inside a frame of the mask colour, drawn over green.
   form_.images->SetMaskColor(kMask);
   toolkit::Picture picture = SolidPicture(32, 32, kMask);
-  HDC dc = ::GetDC(nullptr);
-  HDC memory = ::CreateCompatibleDC(dc);
-  HBITMAP bitmap = static_cast<HBITMAP>(picture.Handle());
-  HGDIOBJ old = ::SelectObject(memory, bitmap);
+  HDC memory = ::CreateCompatibleDC(nullptr);
+  HGDIOBJ old = ::SelectObject(memory, picture.Handle());
   RECT inner{8, 8, 24, 24};
-  HBRUSH blue = ::CreateSolidBrush(RGB(0, 0, 255));
-  ::FillRect(memory, &inner, blue);
+  ::SetDCBrushColor(memory, RGB(0, 0, 255));
+  ::FillRect(memory, &inner, static_cast<HBRUSH>(::GetStockObject(DC_BRUSH)));
   ::SelectObject(memory, old);
   form_.images->Add("c0", picture);
 
@@ -126,9 +123,7 @@ TEST_F(ControlsTest, TheMaskColourOfAnImageListIsTransparent) {
   old = ::SelectObject(memory, target.Handle());
   ::ImageList_Draw(form_.images->Handle(), 0, memory, 0, 0, ILD_TRANSPARENT);
   ::SelectObject(memory, old);
-  ::DeleteObject(blue);
   ::DeleteDC(memory);
-  ::ReleaseDC(nullptr, dc);
   EXPECT_EQ(testing_support::PicturePixel(target, 2, 2), RGB(0, 200, 0));
   EXPECT_EQ(testing_support::PicturePixel(target, 16, 16), RGB(0, 0, 255));
 }
