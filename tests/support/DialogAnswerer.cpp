@@ -10,22 +10,6 @@ namespace {
 
 constexpr auto kPollInterval = std::chrono::milliseconds(10);
 
-std::vector<HWND> VisibleDialogsOfThisProcess() {
-  std::vector<HWND> found;
-  ::EnumWindows(
-      [](HWND window, LPARAM data) -> BOOL {
-        DWORD owner = 0;
-        ::GetWindowThreadProcessId(window, &owner);
-        if (owner == ::GetCurrentProcessId() && ::IsWindowVisible(window) &&
-            ClassName(window) == "#32770") {
-          reinterpret_cast<std::vector<HWND>*>(data)->push_back(window);
-        }
-        return TRUE;
-      },
-      reinterpret_cast<LPARAM>(&found));
-  return found;
-}
-
 SeenDialog Read(HWND dialog) {
   SeenDialog seen;
   seen.title = WindowText(dialog);
@@ -76,8 +60,11 @@ std::vector<SeenDialog> DialogAnswerer::Seen() const {
 void DialogAnswerer::Watch() {
   std::vector<HWND> answered;
   while (!stop_) {
-    for (HWND dialog : VisibleDialogsOfThisProcess()) {
-      if (std::find(answered.begin(), answered.end(), dialog) != answered.end()) continue;
+    for (HWND dialog : VisibleWindowsOf(::GetCurrentProcessId())) {
+      if (ClassName(dialog) != "#32770" ||
+          std::find(answered.begin(), answered.end(), dialog) != answered.end()) {
+        continue;
+      }
       answered.push_back(dialog);
       SeenDialog seen = Read(dialog);
       size_t position = 0;

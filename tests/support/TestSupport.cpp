@@ -144,10 +144,14 @@ DWORD ChildProcess::ExitCode() const {
 }
 
 std::vector<HWND> ChildProcess::VisibleWindows() const {
+  return VisibleWindowsOf(info_.dwProcessId);
+}
+
+std::vector<HWND> VisibleWindowsOf(DWORD processId) {
   struct Search {
     DWORD pid;
     std::vector<HWND> found;
-  } search{info_.dwProcessId, {}};
+  } search{processId, {}};
   ::EnumWindows(
       [](HWND window, LPARAM data) -> BOOL {
         auto* s = reinterpret_cast<Search*>(data);

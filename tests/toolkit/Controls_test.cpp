@@ -5,7 +5,6 @@
 
 #include "support/Pixels.h"
 #include "toolkit/Form.h"
-#include "toolkit/MessageLoop.h"
 
 namespace {
 
@@ -36,7 +35,6 @@ class ControlsForm : public Form {
     text->onChange = [this] { log.push_back("change " + text->Text()); };
     text->mouse.onMouseMove = [this](const toolkit::MouseEvent&) { log.push_back("text move"); };
     combo->onClick = [this] { log.push_back("choose " + combo->Text()); };
-    list->onItemClick = [this](int item) { log.push_back("item " + std::to_string(item)); };
   }
 };
 
@@ -94,17 +92,6 @@ TEST_F(ControlsTest, ListViewRefusesItemsWithoutImagesOrWithTakenKeys) {
   EXPECT_EQ(form_.list->Count(), 0);
   EXPECT_EQ(form_.images->Count(), 0);
   EXPECT_EQ(form_.images->IndexOf("c0"), 0);
-}
-
-TEST_F(ControlsTest, ClickingAnItemReportsItsPosition) {
-  FillList(2, 2);
-  RECT item{LVIR_ICON, 0, 0, 0};
-  ::SendMessageA(form_.list->Hwnd(), LVM_GETITEMRECT, 1, reinterpret_cast<LPARAM>(&item));
-  LPARAM at = MAKELPARAM((item.left + item.right) / 2, (item.top + item.bottom) / 2);
-  ::SendMessageA(form_.list->Hwnd(), WM_LBUTTONDOWN, MK_LBUTTON, at);
-  ::SendMessageA(form_.list->Hwnd(), WM_LBUTTONUP, 0, at);
-  toolkit::DoEvents();
-  EXPECT_EQ(form_.log, (Log{"item 2"}));
 }
 
 TEST_F(ControlsTest, TheMaskColourOfAnImageListIsTransparent) {
