@@ -11,7 +11,7 @@ Usage: make_icon_files.py OUTDIR COUNT...
   ICONS<n>.rc      for each COUNT, a resource library script holding n icons,
                    identifiers 1 to n in file order
   numbered/*.ico   the icons those scripts take in: the icon at 0-based
-                   position i is a rounded square in a colour of its own whose
+                   position i is an opaque square in a colour of its own whose
                    centre pixel reads RGB(i % 256, i // 256, 0)
 """
 
@@ -21,6 +21,7 @@ import struct
 import sys
 
 CHECKER = 4
+SIZE = 32
 CENTRE = 16
 
 
@@ -51,65 +52,28 @@ def ico_file(images):
 
 
 def checkerboard(size):
-    rows = []
-    for y in range(size):
-        row = []
-        for x in range(size):
-            if (x // CHECKER + y // CHECKER) % 2:
-                row.append((0, 0, 0, 0))
-            else:
-                row.append((40 + x * 6 % 200, 200 - y * 5 % 180, 90, 255))
-        rows.append(row)
-    return rows
+    return [[(0, 0, 0, 0) if (x // CHECKER + y // CHECKER) % 2
+             else (40 + x * 6 % 200, 200 - y * 5 % 180, 90, 255) for x in range(size)]
+            for y in range(size)]
 
 
-BODY, EDGE = 1, 2
+# Thousands of icons of one layout: each is the same file with its own
+# colour in place of the placeholder's and its number in the centre pixel.
+PLACEHOLDER = (3, 2, 1, 255)
+TEMPLATE = ico_file([(SIZE, [[PLACEHOLDER] * SIZE] * SIZE)])
+CENTRE_AT = 6 + 16 + 40 + ((SIZE - 1 - CENTRE) * SIZE + CENTRE) * 4  # rows bottom-up, BGRA
 
 
-def numbered_shape(size=32):
-    """Which pixels of the numbered icons are clear (0), edge or body."""
-    rows = []
-    for y in range(size):
-        row = []
-        for x in range(size):
-            dx = max(3 - x, x - (size - 4), 0)
-            dy = max(3 - y, y - (size - 4), 0)
-            if x < 1 or y < 1 or x > size - 2 or y > size - 2 or dx * dx + dy * dy > 9:
-                row.append(0)
-            elif x in (1, size - 2) or y in (1, size - 2) or dx * dx + dy * dy > 4:
-                row.append(EDGE)
-            else:
-                row.append(BODY)
-        rows.append(row)
-    return rows
-
-
-class NumberedIcons:
-    """Thousands of icons of one shape: the file is laid out once with
-    placeholder pixels, and each icon only fills in its colours."""
-
-    def __init__(self, size=32):
-        self.size = size
-        shape = numbered_shape(size)
-        placeholder = {0: (0, 0, 0, 0), BODY: (BODY,) * 4, EDGE: (EDGE,) * 4}
-        self.template = ico_file([(size, [[placeholder[c] for c in row] for row in shape])])
-        # The centre pixel's place in the file: header, bottom-up rows, BGRA.
-        row_from_bottom = size - 1 - CENTRE
-        self.centre = 6 + 16 + 40 + (row_from_bottom * size + CENTRE) * 4
-
-    def icon(self, index):
-        hue = (index * 0.618034) % 1.0
-        body = bytes(round(c * 255) for c in colorsys.hsv_to_rgb(hue, 0.65, 0.9)[::-1]) + b"\xff"
-        edge = bytes(round(c * 255) for c in colorsys.hsv_to_rgb(hue, 0.8, 0.55)[::-1]) + b"\xff"
-        data = bytearray(self.template.replace(bytes((BODY,)) * 4, body)
-                         .replace(bytes((EDGE,)) * 4, edge))
-        data[self.centre:self.centre + 4] = bytes((0, index // 256, index % 256, 255))
-        return bytes(data)
+def numbered_icon(index):
+    hue = (index * 0.618034) % 1.0
+    bgra = bytes(round(c * 255) for c in colorsys.hsv_to_rgb(hue, 0.65, 0.9)[::-1]) + b"\xff"
+    data = bytearray(TEMPLATE.replace(bytes((1, 2, 3, 255)), bgra))
+    data[CENTRE_AT:CENTRE_AT + 4] = bytes((0, index // 256, index % 256, 255))
+    return bytes(data)
 
 
 def write(path, data):
-    mode = "wb" if isinstance(data, bytes) else "w"
-    with open(path, mode) as f:
+    with open(path, "wb" if isinstance(data, bytes) else "w") as f:
         f.write(data)
 
 
@@ -119,18 +83,13 @@ def main(argv):
         return 2
     out = argv[1]
     counts = [int(n) for n in argv[2:]]
-    numbered_dir = os.path.join(out, "numbered")
-    os.makedirs(numbered_dir, exist_ok=True)
-
-    write(os.path.join(out, "icons.ico"),
-          ico_file([(n, checkerboard(n)) for n in (16, 32, 48)]))
+    os.makedirs(os.path.join(out, "numbered"), exist_ok=True)
+    write(os.path.join(out, "icons.ico"), ico_file([(n, checkerboard(n)) for n in (16, 32, 48)]))
     write(os.path.join(out, "notes.txt"), "No icons in here.\r\n")
     write(os.path.join(out, "NOICONS.rc"),
           "// A resource library without icons.\nSTRINGTABLE\nBEGIN\n  1 \"no icons\"\nEND\n")
-
-    maker = NumberedIcons()
     for i in range(max(counts, default=0)):
-        write(os.path.join(numbered_dir, "%04d.ico" % i), maker.icon(i))
+        write(os.path.join(out, "numbered", "%04d.ico" % i), numbered_icon(i))
     for n in counts:
         lines = ["// %d icons; the icon at position i has identifier i + 1." % n]
         lines += ['%d ICON "numbered/%04d.ico"' % (i + 1, i) for i in range(n)]

@@ -7,7 +7,7 @@
 #include "frame/RunState.h"
 #include "frame/modINI.h"
 #include "resource_ids.h"
-#include "support/MessageBoxAnswerer.h"
+#include "support/DialogAnswerer.h"
 #include "support/TestSupport.h"
 #include "toolkit/ScopedHandle.h"
 
@@ -134,7 +134,7 @@ TEST_F(RecentListTest, AnUnwritableRecentFileLeavesTheListAsItWas) {
 
 TEST_F(RecentListTest, AMissingFileIsReportedAndChangesNothing) {
   frame::LanguageLibrary().DllName(testing_support::DistFolder() + "LANG_ENG.DLL");
-  testing_support::MessageBoxAnswerer user(IDOK);
+  testing_support::DialogAnswerer user(IDOK);
   Open(icons_ / "gone.ico");
 
   auto seen = user.Seen();

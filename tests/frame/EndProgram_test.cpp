@@ -1,5 +1,5 @@
-// EndProgram ends the process, so each case runs in a child process of its
-// own (a death test) and the parent checks what it left behind.
+// EndProgram ends the process, so it runs in a child process of its own (a
+// death test) and the parent checks what it left behind.
 #include "frame/EndProgram.h"
 
 #include <gtest/gtest.h>
@@ -10,9 +10,7 @@
 
 namespace {
 
-using testing_support::PathExists;
 using testing_support::ReadWholeFile;
-using testing_support::ScratchFolder;
 using testing_support::WriteWholeFile;
 
 // Stands in for a loaded window: unloading appends its name to a log file.
@@ -33,32 +31,22 @@ class LoggedWindow : public toolkit::LoadedWindow {
   bool closing_;
 };
 
-class EndProgramTest : public ::testing::Test {
- protected:
-  void SetUp() override {
-    GTEST_FLAG_SET(death_test_style, "threadsafe");
-    frame::programFolder = folder_.Path() + "\\";
-  }
-  ScratchFolder folder_{::testing::UnitTest::GetInstance()->current_test_info()->name()};
-};
-
-TEST_F(EndProgramTest, RemovesTheFontFileAndEndsWithCodeZero) {
-  const std::string font = folder_ / "Morvane.ttf";
+TEST(EndProgram, RemovesTheFontFileUnloadsWindowsInOrderSkippingAClosingOneAndEndsWithZero) {
+  GTEST_FLAG_SET(death_test_style, "threadsafe");
+  // Shared by name with the child process.
+  testing_support::ScratchFolder folder("end-program");
+  const std::string font = folder / "Morvane.ttf", log = folder / "unloaded.txt";
   WriteWholeFile(font, "left by an earlier run");
-  EXPECT_EXIT(frame::EndProgram(false), ::testing::ExitedWithCode(0), "");
-  EXPECT_FALSE(PathExists(font));
-}
-
-TEST_F(EndProgramTest, UnloadsLoadedWindowsInOrderPassingOverOneThatIsClosing) {
-  const std::string log = folder_ / "unloaded.txt";
-  auto unloadThreeAndEnd = [&log] {
-    WriteWholeFile(log, "");
+  WriteWholeFile(log, "");
+  auto unloadThreeAndEnd = [&] {
+    frame::programFolder = folder.Path() + "\\";
     LoggedWindow main("main", log, false);
     LoggedWindow closing("closing", log, true);
     LoggedWindow about("about", log, false);
     frame::EndProgram(false);
   };
   EXPECT_EXIT(unloadThreeAndEnd(), ::testing::ExitedWithCode(0), "");
+  EXPECT_FALSE(testing_support::PathExists(font));
   EXPECT_EQ(ReadWholeFile(log), "main;about;");
 }
 

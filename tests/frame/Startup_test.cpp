@@ -6,61 +6,54 @@
 
 namespace {
 
-using frame::ChooseLanguageFile;
-using frame::CommandLineArguments;
-using frame::TargetFolderFrom;
-using testing_support::ScratchFolder;
-using testing_support::WriteWholeFile;
-
-TEST(CommandLineArguments, IsEverythingAfterTheProgramNameAndOneBlank) {
-  EXPECT_EQ(CommandLineArguments("\"C:\\Program Files\\Morvane.exe\" D:\\Photos"), "D:\\Photos");
-  EXPECT_EQ(CommandLineArguments("Morvane.exe D:\\My Photos"), "D:\\My Photos");
-  EXPECT_EQ(CommandLineArguments("Morvane.exe\tD:\\x"), "D:\\x");
-  EXPECT_EQ(CommandLineArguments("\"Morvane.exe\"D:\\x"), "D:\\x");
-  EXPECT_EQ(CommandLineArguments("Morvane.exe"), "");
-  EXPECT_EQ(CommandLineArguments("\"Morvane.exe\""), "");
-  EXPECT_EQ(CommandLineArguments("\"unterminated D:\\x"), "");
+TEST(CommandLine, ArgumentsAreEverythingAfterTheProgramNameAndOneBlankUnchanged) {
+  const std::pair<std::string, std::string> cases[] = {
+      {"\"C:\\Program Files\\Morvane.exe\" D:\\Photos", "D:\\Photos"},
+      {"Morvane.exe D:\\My Photos", "D:\\My Photos"},
+      {"Morvane.exe\tD:\\x", "D:\\x"},
+      {"\"Morvane.exe\"D:\\x", "D:\\x"},
+      {"Morvane.exe", ""},
+      {"\"Morvane.exe\"", ""},
+      {"\"unterminated D:\\x", ""},
+      {"Morvane.exe \"D:\\My Photos\"", "\"D:\\My Photos\""},
+      {"Morvane.exe   D:\\x  ", "  D:\\x  "},
+      {"Morvane.exe    ", "   "},
+  };
+  for (const auto& [line, arguments] : cases) {
+    EXPECT_EQ(frame::CommandLineArguments(line), arguments) << line;
+  }
 }
 
-TEST(CommandLineArguments, KeepsQuotesAndFurtherBlanks) {
-  EXPECT_EQ(CommandLineArguments("Morvane.exe \"D:\\My Photos\""), "\"D:\\My Photos\"");
-  EXPECT_EQ(CommandLineArguments("Morvane.exe   D:\\x  "), "  D:\\x  ");
-  EXPECT_EQ(CommandLineArguments("Morvane.exe    "), "   ");
+TEST(CommandLine, TheTargetFolderLosesOneTrailingSeparatorOnly) {
+  const std::pair<std::string, std::string> cases[] = {
+      {"D:\\Photos\\", "D:\\Photos"},
+      {"D:\\Photos/", "D:\\Photos"},
+      {"D:\\Photos\\\\", "D:\\Photos\\"},
+      {"D:\\Photos", "D:\\Photos"},
+      {"\\", ""},
+      {"", ""},
+  };
+  for (const auto& [arguments, folder] : cases) {
+    EXPECT_EQ(frame::TargetFolderFrom(arguments), folder) << arguments;
+  }
 }
 
-TEST(TargetFolderFrom, DropsOneTrailingSeparatorOnly) {
-  EXPECT_EQ(TargetFolderFrom("D:\\Photos\\"), "D:\\Photos");
-  EXPECT_EQ(TargetFolderFrom("D:\\Photos/"), "D:\\Photos");
-  EXPECT_EQ(TargetFolderFrom("D:\\Photos\\\\"), "D:\\Photos\\");
-  EXPECT_EQ(TargetFolderFrom("D:\\Photos"), "D:\\Photos");
-  EXPECT_EQ(TargetFolderFrom("\\"), "");
-  EXPECT_EQ(TargetFolderFrom(""), "");
-}
-
-class ChooseLanguageFileTest : public ::testing::Test {
- protected:
-  std::string Folder() const { return folder_.Path() + "\\"; }
-  void Touch(const std::string& name) { WriteWholeFile(folder_ / name, "x"); }
-  ScratchFolder folder_;
-};
-
-TEST_F(ChooseLanguageFileTest, PrefersTheConfiguredLibrary) {
-  Touch("LANG_ENG.DLL");
-  Touch("LANG_ESP.DLL");
-  WriteWholeFile(folder_ / "Config.ini", "[Config]\r\nLANGUAGE=LANG_ESP.DLL\r\nFont=Tahoma\r\n");
-  EXPECT_EQ(ChooseLanguageFile(Folder()), "LANG_ESP.DLL");
-
-  WriteWholeFile(folder_ / "Config.ini", "[Config]\r\nLANGUAGE=LANG_XYZ.DLL\r\n");
-  EXPECT_EQ(ChooseLanguageFile(Folder()), "LANG_XYZ.DLL") << "even one that is missing";
-}
-
-TEST_F(ChooseLanguageFileTest, OtherwiseEnglishThenSpanishThenNothing) {
-  EXPECT_EQ(ChooseLanguageFile(Folder()), "");
-  Touch("LANG_ESP.DLL");
-  EXPECT_EQ(ChooseLanguageFile(Folder()), "LANG_ESP.DLL");
-  Touch("LANG_ENG.DLL");
-  WriteWholeFile(folder_ / "Config.ini", "[Config]\r\nFont=Tahoma\r\n");
-  EXPECT_EQ(ChooseLanguageFile(Folder()), "LANG_ENG.DLL");
+TEST(ChooseLanguageFile, TheConfiguredLibraryElseEnglishElseSpanishElseNothing) {
+  testing_support::ScratchFolder folder;
+  const std::string path = folder.Path() + "\\";
+  auto write = [&](const std::string& name, const std::string& text) {
+    testing_support::WriteWholeFile(folder / name, text);
+  };
+  EXPECT_EQ(frame::ChooseLanguageFile(path), "");
+  write("LANG_ESP.DLL", "x");
+  EXPECT_EQ(frame::ChooseLanguageFile(path), "LANG_ESP.DLL");
+  write("LANG_ENG.DLL", "x");
+  write("Config.ini", "[Config]\r\nFont=Tahoma\r\n");
+  EXPECT_EQ(frame::ChooseLanguageFile(path), "LANG_ENG.DLL");
+  write("Config.ini", "[Config]\r\nLANGUAGE=LANG_ESP.DLL\r\n");
+  EXPECT_EQ(frame::ChooseLanguageFile(path), "LANG_ESP.DLL");
+  write("Config.ini", "[Config]\r\nLANGUAGE=LANG_XYZ.DLL\r\n");
+  EXPECT_EQ(frame::ChooseLanguageFile(path), "LANG_XYZ.DLL") << "even one that is missing";
 }
 
 }  // namespace

@@ -16,55 +16,20 @@ namespace {
 using frame::CResDll;
 using testing_support::DistFolder;
 
-constexpr int kEveryString[] = {IDS_PRODUCT_NAME,
-                                IDS_PRODUCT_TAGLINE,
-                                IDS_ABOUT_WEB_ADDRESS,
-                                IDS_COPYRIGHT,
-                                IDS_LANGUAGE_CODE,
-                                IDS_CURRENT_ICON_LABEL,
-                                IDS_NEW_ICON_LABEL,
-                                IDS_CHOOSER_TITLE,
-                                IDS_CHOOSER_FILTER,
-                                IDS_MISSING_FILE_TITLE,
-                                IDS_MISSING_FILE_PROMPT,
-                                IDS_BROWSE_BUTTON,
-                                IDS_APPLY_BUTTON,
-                                IDS_CONFIRM_TITLE,
-                                IDS_APPLY_PROMPT,
-                                IDS_DEFAULT_INFOTIP_LEAD,
-                                IDS_EXIT_BUTTON,
-                                IDS_TIP_NEW_ICON,
-                                IDS_TIP_CURRENT_ICON,
-                                IDS_TIP_ICON_LIST,
-                                IDS_TIP_BROWSE,
-                                IDS_TIP_RECENT,
-                                IDS_INFOTIP_LABEL,
-                                IDS_RECENT_LABEL,
-                                IDS_TIP_INFOTIP,
-                                IDS_STATUS_LOADING,
-                                IDS_STATUS_FEW_ICONS,
-                                IDS_STATUS_ICON_COUNT,
-                                IDS_DEFAULT_ICON_LABEL,
-                                IDS_REMOVE_PROMPT,
-                                IDS_TIP_ABOUT,
-                                IDS_LOW_DEPTH_NOTICE,
-                                IDS_LOW_DEPTH_QUESTION,
-                                IDS_RESTART_NOTICE,
-                                IDS_RESTART_QUESTION,
-                                IDS_EMPTY_COMMAND_LINE,
-                                IDS_TIP_DEFAULT_ICON,
-                                IDS_ABOUT_UPDATE,
-                                IDS_ABOUT_WEB_PAGE,
-                                IDS_HELP,
-                                IDS_ABOUT_OK,
-                                IDS_ABOUT_VERSION,
-                                IDS_ABOUT_THANKS,
-                                IDS_ABOUT_SUMMARY,
-                                IDS_ABOUT_RIGHTS,
-                                IDS_ABOUT_SETTINGS,
-                                IDS_SPLASH_INFO,
-                                IDS_ABOUT_CREDITS,
-                                IDS_ABOUT_CONTACT};
+// clang-format off
+constexpr int kEveryString[] = {
+    IDS_PRODUCT_NAME, IDS_PRODUCT_TAGLINE, IDS_ABOUT_WEB_ADDRESS, IDS_COPYRIGHT, IDS_LANGUAGE_CODE,
+    IDS_CURRENT_ICON_LABEL, IDS_NEW_ICON_LABEL, IDS_CHOOSER_TITLE, IDS_CHOOSER_FILTER,
+    IDS_MISSING_FILE_TITLE, IDS_MISSING_FILE_PROMPT, IDS_BROWSE_BUTTON, IDS_APPLY_BUTTON,
+    IDS_CONFIRM_TITLE, IDS_APPLY_PROMPT, IDS_DEFAULT_INFOTIP_LEAD, IDS_EXIT_BUTTON,
+    IDS_TIP_NEW_ICON, IDS_TIP_CURRENT_ICON, IDS_TIP_ICON_LIST, IDS_TIP_BROWSE, IDS_TIP_RECENT,
+    IDS_INFOTIP_LABEL, IDS_RECENT_LABEL, IDS_TIP_INFOTIP, IDS_STATUS_LOADING, IDS_STATUS_FEW_ICONS,
+    IDS_STATUS_ICON_COUNT, IDS_DEFAULT_ICON_LABEL, IDS_REMOVE_PROMPT, IDS_TIP_ABOUT,
+    IDS_LOW_DEPTH_NOTICE, IDS_LOW_DEPTH_QUESTION, IDS_RESTART_NOTICE, IDS_RESTART_QUESTION,
+    IDS_EMPTY_COMMAND_LINE, IDS_TIP_DEFAULT_ICON, IDS_ABOUT_UPDATE, IDS_ABOUT_WEB_PAGE, IDS_HELP,
+    IDS_ABOUT_OK, IDS_ABOUT_VERSION, IDS_ABOUT_THANKS, IDS_ABOUT_SUMMARY, IDS_ABOUT_RIGHTS,
+    IDS_ABOUT_SETTINGS, IDS_SPLASH_INFO, IDS_ABOUT_CREDITS, IDS_ABOUT_CONTACT};
+// clang-format on
 
 std::string LoadFrom(const std::string& file, int id) {
   CResDll library;
@@ -72,25 +37,15 @@ std::string LoadFrom(const std::string& file, int id) {
   return library.LoadDllString(id);
 }
 
-class LanguageLibrary : public ::testing::TestWithParam<const char*> {
- protected:
-  void SetUp() override {
-    library_.DllName(DistFolder() + GetParam());
-    ASSERT_FALSE(library_.DllName().empty());
-  }
-  CResDll library_;
-};
+class LanguageLibrary : public ::testing::TestWithParam<const char*> {};
 
-TEST_P(LanguageLibrary, HoldsEveryStringTheProgramUses) {
+TEST_P(LanguageLibrary, HoldsEveryStringUncutAndAFilterOfFourDescriptionPatternPairs) {
   for (int id : kEveryString) {
-    std::string text = library_.LoadDllString(id);
+    std::string text = LoadFrom(GetParam(), id);
     EXPECT_FALSE(text.empty()) << "string " << id;
     EXPECT_LT(text.size(), 255u) << "string " << id << " would be cut";
   }
-}
-
-TEST_P(LanguageLibrary, ChooserFilterIsFourDescriptionPatternPairs) {
-  std::string filter = library_.LoadDllString(IDS_CHOOSER_FILTER);
+  std::string filter = LoadFrom(GetParam(), IDS_CHOOSER_FILTER);
   std::vector<std::string> parts;
   std::size_t start = 0;
   for (std::size_t bar; (bar = filter.find('|', start)) != std::string::npos; start = bar + 1) {
@@ -107,18 +62,17 @@ TEST_P(LanguageLibrary, ChooserFilterIsFourDescriptionPatternPairs) {
 INSTANTIATE_TEST_SUITE_P(Shipped, LanguageLibrary,
                          ::testing::Values("LANG_ENG.DLL", "LANG_ESP.DLL"));
 
-TEST(LanguageLibraries, AgreeOnTheMarkSectionAndNameTheirLanguage) {
-  EXPECT_EQ(LoadFrom("LANG_ENG.DLL", IDS_PRODUCT_NAME), "Morvane");
-  EXPECT_EQ(LoadFrom("LANG_ESP.DLL", IDS_PRODUCT_NAME), "Morvane");
+TEST(LanguageLibraries, AgreeOnTheMarkSectionNameTheirLanguageAndKeepSpanishAccents) {
+  for (const char* file : {"LANG_ENG.DLL", "LANG_ESP.DLL"}) {
+    EXPECT_EQ(LoadFrom(file, IDS_PRODUCT_NAME), "Morvane") << file;
+  }
   EXPECT_EQ(LoadFrom("LANG_ENG.DLL", IDS_LANGUAGE_CODE), "en");
   EXPECT_EQ(LoadFrom("LANG_ESP.DLL", IDS_LANGUAGE_CODE), "es");
   EXPECT_NE(LoadFrom("LANG_ENG.DLL", IDS_EMPTY_COMMAND_LINE),
             LoadFrom("LANG_ESP.DLL", IDS_EMPTY_COMMAND_LINE));
-}
 
-TEST(LanguageLibraries, SpanishAccentsArriveInTheAnsiCodePage) {
-  // The Spanish texts are written with accents; each must reach the program
-  // as one Windows-1252 character, not as UTF-8 pairs.
+  // Each accented letter must reach the program as one Windows-1252
+  // character, not as a UTF-8 pair.
   std::string all;
   for (int id : kEveryString) all += LoadFrom("LANG_ESP.DLL", id);
   EXPECT_NE(all.find_first_of("\xE1\xE9\xED\xF3\xFA\xF1"), std::string::npos);

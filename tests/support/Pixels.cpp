@@ -1,5 +1,7 @@
 #include "support/Pixels.h"
 
+#include "toolkit/MessageLoop.h"
+
 namespace testing_support {
 
 PixelGrid ReadPixels(HBITMAP bitmap) {
@@ -31,12 +33,35 @@ PixelGrid ReadIconPixels(HICON icon) {
   return grid;
 }
 
-bool IconAlive(HICON icon) {
-  ICONINFO info{};
-  if (!::GetIconInfo(icon, &info)) return false;
-  ::DeleteObject(info.hbmColor);
-  ::DeleteObject(info.hbmMask);
-  return true;
+COLORREF PicturePixel(const toolkit::Picture& picture, int x, int y) {
+  PixelGrid grid = ReadPixels(static_cast<HBITMAP>(picture.Handle()));
+  if (x < 0 || y < 0 || x >= grid.width || y >= grid.height) return CLR_INVALID;
+  return grid.Colour(x, y);
+}
+
+toolkit::Picture SolidPicture(int width, int height, COLORREF colour) {
+  HDC screen = ::GetDC(nullptr);
+  HBITMAP bitmap = ::CreateCompatibleBitmap(screen, width, height);
+  HDC memory = ::CreateCompatibleDC(screen);
+  HGDIOBJ old = ::SelectObject(memory, bitmap);
+  ::SetDCBrushColor(memory, colour);
+  RECT all{0, 0, width, height};
+  ::FillRect(memory, &all, static_cast<HBRUSH>(::GetStockObject(DC_BRUSH)));
+  ::SelectObject(memory, old);
+  ::DeleteDC(memory);
+  ::ReleaseDC(nullptr, screen);
+  return toolkit::Picture::Adopt(toolkit::Picture::Kind::Bitmap, bitmap);
+}
+
+TestWindow::TestWindow(int width, int height)
+    : window_(::CreateWindowExA(0, "STATIC", "test host", WS_POPUP | WS_VISIBLE, 10, 10, width,
+                                height, nullptr, nullptr, ::GetModuleHandleA(nullptr), nullptr)) {
+  toolkit::DoEvents();
+}
+
+TestWindow::~TestWindow() {
+  if (window_) ::DestroyWindow(window_);
+  toolkit::DoEvents();
 }
 
 }  // namespace testing_support

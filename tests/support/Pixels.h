@@ -1,11 +1,14 @@
-// Pixels of bitmaps and icons, all at once through a 32-bit top-down DIB
-// copy with the alpha channel kept; and whether an icon still exists.
+// Pixels of bitmaps, icons and pictures, read all at once through a 32-bit
+// top-down DIB copy with the alpha channel kept; solid pictures to draw
+// with, and a plain window to host elements under test.
 #pragma once
 
 #include <windows.h>
 
 #include <cstdint>
 #include <vector>
+
+#include "toolkit/Picture.h"
 
 namespace testing_support {
 
@@ -24,11 +27,26 @@ struct PixelGrid {
 
 // Empty when the bitmap cannot be read.
 PixelGrid ReadPixels(HBITMAP bitmap);
-
-// The colour image of an icon (alpha included), and its size.
+// The colour image of an icon (alpha included); empty once it is destroyed.
 PixelGrid ReadIconPixels(HICON icon);
+inline bool IconAlive(HICON icon) {
+  return !ReadIconPixels(icon).bgra.empty();
+}
 
-// True while the icon has not been destroyed.
-bool IconAlive(HICON icon);
+// A pixel of a bitmap picture; CLR_INVALID outside it.
+COLORREF PicturePixel(const toolkit::Picture& picture, int x, int y);
+toolkit::Picture SolidPicture(int width, int height, COLORREF colour);
+
+class TestWindow {
+ public:
+  TestWindow(int width = 200, int height = 150);
+  ~TestWindow();
+  TestWindow(const TestWindow&) = delete;
+  TestWindow& operator=(const TestWindow&) = delete;
+  HWND Hwnd() const { return window_; }
+
+ private:
+  HWND window_;
+};
 
 }  // namespace testing_support

@@ -12,9 +12,8 @@
 
 namespace testing_support {
 
-// Remembers one value (and which keys on its path exist) and puts it back
-// when the guard ends: the old kind and bytes, or no value and no keys where
-// there were none.
+// Remembers one value and puts it back when the guard ends: the old kind
+// and bytes, or no value where there was none. Keys created on the way stay.
 class RegistryValueGuard {
  public:
   RegistryValueGuard(HKEY hive, std::string keyName, std::string valueName);
@@ -23,18 +22,13 @@ class RegistryValueGuard {
   RegistryValueGuard& operator=(const RegistryValueGuard&) = delete;
 
  private:
-  struct Saved {
-    DWORD kind;
-    std::vector<BYTE> bytes;
-  };
   HKEY hive_;
   std::string keyName_, valueName_;
-  std::optional<Saved> saved_;
-  std::vector<std::string> missingKeys_;  // deepest first
+  DWORD kind_ = REG_NONE;
+  std::optional<std::vector<BYTE>> saved_;
 };
 
-// A fresh key under HKEY_CURRENT_USER that only this test uses, deleted with
-// everything in it when the object ends.
+// A fresh key under HKEY_CURRENT_USER, deleted with its contents at the end.
 class ScratchKey {
  public:
   ScratchKey();
@@ -46,7 +40,7 @@ class ScratchKey {
   HKEY Handle() const { return key_.get(); }
 
  private:
-  std::string name_;
+  std::string name_ = "Software\\Morvane Tests";
   toolkit::ScopedKey key_;
 };
 

@@ -29,11 +29,10 @@ class ShellNotifyRecorder : public folder::ShellNotifier {
   ShellNotifyRecorder& operator=(const ShellNotifyRecorder&) = delete;
 
   void Notify(LONG event, UINT flags, const void* item1, const void* item2) override;
-  const std::vector<ShellNotification>& Calls() const { return calls_; }
+  std::vector<ShellNotification> calls;
 
  private:
   folder::ShellNotifier* previous_;
-  std::vector<ShellNotification> calls_;
 };
 
 }  // namespace testing_support

@@ -67,37 +67,26 @@ void DeleteTree(const std::string& path) {
   ::RemoveDirectoryA(path.c_str());
 }
 
-namespace {
-std::string TempFolder() {
+ScratchFolder::ScratchFolder(const std::string& sharedName) {
   char temp[MAX_PATH] = {};
   ::GetTempPathA(MAX_PATH, temp);
-  return temp;
-}
-}  // namespace
-
-ScratchFolder::ScratchFolder(const std::string& sharedName) {
-  std::string candidate = TempFolder() + "morvane-test-" + sharedName;
-  if (!::CreateDirectoryA(candidate.c_str(), nullptr) && ::GetLastError() != ERROR_ALREADY_EXISTS) {
-    throw std::runtime_error("cannot create scratch folder " + candidate);
-  }
-  path_ = FullPath(candidate);
-}
-
-ScratchFolder::ScratchFolder() {
   static unsigned serial = 0;
   for (;;) {
-    std::string candidate = TempFolder() + "morvane-test-" +
-                            std::to_string(::GetCurrentProcessId()) + "-" +
-                            std::to_string(++serial);
-    if (::CreateDirectoryA(candidate.c_str(), nullptr)) {
+    const std::string candidate = std::string(temp) + "morvane-test-" +
+                                  (sharedName.empty() ? std::to_string(::GetCurrentProcessId()) +
+                                                            "-" + std::to_string(++serial)
+                                                      : sharedName);
+    const bool made = ::CreateDirectoryA(candidate.c_str(), nullptr);
+    const bool taken = !made && ::GetLastError() == ERROR_ALREADY_EXISTS;
+    if (made || (taken && !sharedName.empty())) {
       path_ = FullPath(candidate);
       return;
     }
-    if (::GetLastError() != ERROR_ALREADY_EXISTS) {
-      throw std::runtime_error("cannot create scratch folder " + candidate);
-    }
+    if (!taken) throw std::runtime_error("cannot create scratch folder " + candidate);
   }
 }
+
+ScratchFolder::ScratchFolder() : ScratchFolder(std::string()) {}
 
 ScratchFolder::~ScratchFolder() {
   DeleteTree(path_);
@@ -155,10 +144,14 @@ DWORD ChildProcess::ExitCode() const {
 }
 
 std::vector<HWND> ChildProcess::VisibleWindows() const {
+  return VisibleWindowsOf(info_.dwProcessId);
+}
+
+std::vector<HWND> VisibleWindowsOf(DWORD processId) {
   struct Search {
     DWORD pid;
     std::vector<HWND> found;
-  } search{info_.dwProcessId, {}};
+  } search{processId, {}};
   ::EnumWindows(
       [](HWND window, LPARAM data) -> BOOL {
         auto* s = reinterpret_cast<Search*>(data);

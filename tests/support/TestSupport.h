@@ -79,6 +79,8 @@ class ChildProcess {
   PROCESS_INFORMATION info_{};
 };
 
+// Visible top-level windows of a process.
+std::vector<HWND> VisibleWindowsOf(DWORD processId);
 std::string WindowText(HWND window);
 std::string ClassName(HWND window);
 std::vector<HWND> Children(HWND parent);

@@ -9,14 +9,13 @@
 #include "folder/modRegistry.h"
 #include "frame/CResDll.h"
 #include "resource_ids.h"
-#include "support/MessageBoxAnswerer.h"
+#include "support/DialogAnswerer.h"
 #include "support/RegistryGuard.h"
 #include "support/TestSupport.h"
 
 namespace {
 
-using testing_support::MessageBoxAnswerer;
-using testing_support::StoreRegistryValue;
+using testing_support::DialogAnswerer;
 
 constexpr char kKey[] = "Control Panel\\Desktop\\WindowMetrics";
 constexpr char kValue[] = "Shell Icon BPP";
@@ -30,65 +29,49 @@ class ColourDepthCheck : public ::testing::Test {
     integration::displayColourDepthSource = integration::GetDisplayColourDepth;
     frame::ReleaseLibraries();
   }
-  void Display(std::int32_t depth) {
-    integration::displayColourDepthSource = [depth] { return depth; };
-  }
-  void IconDepth(const char* text) {
-    StoreRegistryValue(HKEY_CURRENT_USER, kKey, kValue, REG_SZ, text);
-  }
-  void NoIconDepth() {
-    HKEY key = nullptr;
-    if (::RegOpenKeyExA(HKEY_CURRENT_USER, kKey, 0, KEY_SET_VALUE, &key) == ERROR_SUCCESS) {
-      ::RegDeleteValueA(key, kValue);
-      ::RegCloseKey(key);
+  // Sets the display depth and the icon depth's text (nullptr: no value).
+  void Depths(std::int32_t display, const char* icons) {
+    integration::displayColourDepthSource = [display] { return display; };
+    if (icons) {
+      testing_support::StoreRegistryValue(HKEY_CURRENT_USER, kKey, kValue, REG_SZ, icons);
+    } else {
+      ::RegDeleteKeyValueA(HKEY_CURRENT_USER, kKey, kValue);
     }
-  }
-  // How many questions were asked when the check ran with `answer`.
-  size_t QuestionsAsked(int answer) {
-    MessageBoxAnswerer user(answer);
-    integration::CheckColourDepth();
-    return user.Seen().size();
   }
   testing_support::RegistryValueGuard keep_{HKEY_CURRENT_USER, kKey, kValue};
 };
 
 TEST_F(ColourDepthCheck, AsksOnlyWhenDisplayAndIconsAreBothBelowSixteenBits) {
-  struct Case {
+  const struct {
     std::int32_t display;
-    const char* icons;  // nullptr: no value
+    const char* icons;
     size_t questions;
-  };
-  for (Case c : {Case{8, nullptr, 1}, Case{8, "4", 1}, Case{8, "16", 0}, Case{8, "32", 0},
-                 Case{16, "4", 0}, Case{24, nullptr, 0}}) {
-    Display(c.display);
-    c.icons ? IconDepth(c.icons) : NoIconDepth();
-    EXPECT_EQ(QuestionsAsked(IDNO), c.questions) << c.display << " / " << (c.icons ? c.icons : "-");
+  } cases[] = {{8, nullptr, 1}, {8, "4", 1},  {8, "16", 0},
+               {8, "32", 0},    {16, "4", 0}, {24, nullptr, 0}};
+  for (const auto& c : cases) {
+    Depths(c.display, c.icons);
+    DialogAnswerer user(IDNO);
+    integration::CheckColourDepth();
+    EXPECT_EQ(user.Seen().size(), c.questions) << c.display << " / " << (c.icons ? c.icons : "-");
   }
 }
 
 TEST_F(ColourDepthCheck, YesRaisesAnExistingIconDepthToTheTextSixteenThenAsksToRestart) {
-  Display(8);
-  IconDepth("4");
+  Depths(8, "4");
   {
-    MessageBoxAnswerer user({IDYES, IDNO});
+    DialogAnswerer user({IDYES, IDNO});
     integration::CheckColourDepth();
     ASSERT_EQ(user.Seen().size(), 2u);
-    EXPECT_EQ(user.Seen()[1].text,
-              frame::LanguageLibrary().LoadDllString(IDS_RESTART_NOTICE) + "\r\n" +
-                  frame::LanguageLibrary().LoadDllString(IDS_RESTART_QUESTION));
+    EXPECT_EQ(user.Seen()[1].text, frame::LanguageText(IDS_RESTART_NOTICE) + "\r\n" +
+                                       frame::LanguageText(IDS_RESTART_QUESTION));
   }
-  folder::RegistryValue stored;
-  HKEY key = nullptr;
-  ASSERT_EQ(::RegOpenKeyExA(HKEY_CURRENT_USER, kKey, 0, KEY_QUERY_VALUE, &key), ERROR_SUCCESS);
-  DWORD size = 0;
-  ::RegQueryValueExA(key, kValue, nullptr, nullptr, nullptr, &size);
-  ::RegCloseKey(key);
-  EXPECT_EQ(size, 2u) << "the two digits, no NUL";
-  EXPECT_EQ(integration::GetShellIconDepth(), 16);
+  EXPECT_EQ(folder::GetRegistryValue(HKEY_CURRENT_USER, kKey, kValue),
+            folder::RegistryValue(std::string("16")))
+      << "the two digits, no NUL";
 
   // A missing value stays missing.
-  NoIconDepth();
-  MessageBoxAnswerer user({IDYES, IDNO});
+  Depths(8, nullptr);
+  DialogAnswerer user({IDYES, IDNO});
   integration::CheckColourDepth();
   EXPECT_EQ(user.Seen().size(), 2u);
   EXPECT_EQ(integration::GetShellIconDepth(), 0);

@@ -5,15 +5,13 @@
 #include <string>
 #include <vector>
 
-#include "support/TestWindow.h"
+#include "support/Pixels.h"
 #include "toolkit/MessageLoop.h"
 
 namespace {
 
 using testing_support::PicturePixel;
 using testing_support::SolidPicture;
-using testing_support::TestWindow;
-using toolkit::PictureBox;
 
 constexpr COLORREF kBack = RGB(10, 20, 30);
 constexpr COLORREF kRed = RGB(255, 0, 0);
@@ -24,11 +22,11 @@ class PictureBoxTest : public ::testing::Test {
   PictureBoxTest() : box_("picTest", host_.Hwnd(), RECT{5, 5, 37, 37}, 101) {
     box_.SetBackColor(kBack);
   }
-  void Mark(HDC dc, COLORREF colour) {
+  // A red 4 x 4 square in the top left corner of the box's drawing surface.
+  void MarkCorner() {
     RECT corner{0, 0, 4, 4};
-    HBRUSH brush = ::CreateSolidBrush(colour);
-    ::FillRect(dc, &corner, brush);
-    ::DeleteObject(brush);
+    ::SetDCBrushColor(box_.hDC(), kRed);
+    ::FillRect(box_.hDC(), &corner, static_cast<HBRUSH>(::GetStockObject(DC_BRUSH)));
   }
   COLORREF OnScreen(int x, int y) {
     toolkit::DoEvents();
@@ -37,51 +35,25 @@ class PictureBoxTest : public ::testing::Test {
     ::ReleaseDC(box_.Hwnd(), dc);
     return colour;
   }
-  TestWindow host_;
-  PictureBox box_;
+  testing_support::TestWindow host_;
+  toolkit::PictureBox box_;
 };
 
-TEST_F(PictureBoxTest, PersistentDrawingGoesIntoTheImageAndReachesTheScreen) {
+TEST_F(PictureBoxTest, OnlyPersistentDrawingGoesIntoTheImageAndItReachesTheScreen) {
   EXPECT_EQ(box_.ScaleWidth(), 32);
+  box_.SetAutoRedraw(false);
+  MarkCorner();
+  EXPECT_EQ(PicturePixel(box_.Image(), 0, 0), kBack);
+
   box_.SetAutoRedraw(true);
-  Mark(box_.hDC(), kRed);
+  MarkCorner();
   box_.Refresh();
   EXPECT_EQ(PicturePixel(box_.Image(), 0, 0), kRed);
   EXPECT_EQ(PicturePixel(box_.Image(), 10, 10), kBack);
   EXPECT_EQ(OnScreen(1, 1), kRed);
   EXPECT_EQ(OnScreen(20, 20), kBack);
-}
 
-TEST_F(PictureBoxTest, DrawingWithoutPersistenceLeavesTheImageAlone) {
-  box_.SetAutoRedraw(false);
-  Mark(box_.hDC(), kRed);
-  EXPECT_EQ(PicturePixel(box_.Image(), 0, 0), kBack);
-}
-
-TEST_F(PictureBoxTest, ANewPictureErasesWhatWasDrawn) {
-  box_.SetAutoRedraw(true);
-  Mark(box_.hDC(), kRed);
-  box_.SetPicture(SolidPicture(8, 8, kGreen));
-  toolkit::Picture image = box_.Image();
-  EXPECT_EQ(PicturePixel(image, 0, 0), kGreen);
-  EXPECT_EQ(PicturePixel(image, 8, 8), kBack);
-
-  box_.SetPicture({});
-  EXPECT_EQ(PicturePixel(box_.Image(), 0, 0), kBack);
-}
-
-TEST_F(PictureBoxTest, ThePictureIsReleasedWhenReplaced) {
-  toolkit::Picture green = SolidPicture(8, 8, kGreen);
-  HANDLE handle = green.Handle();
-  box_.SetPicture(std::move(green));
-  EXPECT_NE(::GetObjectType(handle), 0u);
-  box_.SetPicture({});
-  EXPECT_EQ(::GetObjectType(handle), 0u);
-}
-
-TEST_F(PictureBoxTest, TakingTheImageAsPictureKeepsTheDrawing) {
-  box_.SetAutoRedraw(true);
-  Mark(box_.hDC(), kRed);
+  // Taking the image as the picture keeps the drawing once persistence ends.
   box_.SetPicture(box_.Image());
   box_.SetAutoRedraw(false);
   box_.Refresh();
@@ -89,11 +61,37 @@ TEST_F(PictureBoxTest, TakingTheImageAsPictureKeepsTheDrawing) {
   EXPECT_EQ(PicturePixel(box_.GetPicture(), 1, 1), kRed);
 }
 
-}  // namespace
+TEST_F(PictureBoxTest, ANewPictureErasesTheDrawingAndReleasesTheOldPicture) {
+  box_.SetAutoRedraw(true);
+  MarkCorner();
+  toolkit::Picture green = SolidPicture(8, 8, kGreen);
+  HANDLE handle = green.Handle();
+  box_.SetPicture(std::move(green));
+  EXPECT_EQ(PicturePixel(box_.Image(), 0, 0), kGreen);
+  EXPECT_EQ(PicturePixel(box_.Image(), 8, 8), kBack);
 
-namespace {
+  box_.SetPicture({});
+  EXPECT_EQ(::GetObjectType(handle), 0u);
+  EXPECT_EQ(PicturePixel(box_.Image(), 0, 0), kBack);
+}
 
-TEST_F(PictureBoxTest, MouseEventsMakeClicksOnlyFromAPressAndReleaseOnTheSurface) {
+TEST_F(PictureBoxTest, AutoSizeFollowsThePictureUntilSwitchedOff) {
+  box_.SetAutoRedraw(true);
+  box_.SetAutoSize(true);
+  box_.SetPicture(SolidPicture(20, 10, kGreen));
+  EXPECT_EQ(box_.ScaleWidth(), 20);
+  EXPECT_EQ(box_.ScaleHeight(), 10);
+  RECT client{};
+  ::GetClientRect(box_.Hwnd(), &client);
+  EXPECT_EQ(client.right, 20);
+
+  box_.SetAutoSize(false);
+  box_.Resize(32, 32);
+  EXPECT_EQ(PicturePixel(box_.Image(), 19, 9), kGreen) << "the picture stays";
+  EXPECT_EQ(PicturePixel(box_.Image(), 25, 25), kBack);
+}
+
+TEST_F(PictureBoxTest, ClicksComeOnlyFromAPressAndReleaseOnTheSurface) {
   std::vector<std::string> log;
   box_.mouse.onMouseDown = [&](const toolkit::MouseEvent& e) {
     log.push_back("down " + std::to_string(e.button));
@@ -112,28 +110,6 @@ TEST_F(PictureBoxTest, MouseEventsMakeClicksOnlyFromAPressAndReleaseOnTheSurface
   ::SendMessageA(w, WM_LBUTTONUP, 0, MAKELPARAM(-20, 50));  // released outside
   EXPECT_EQ(log, (std::vector<std::string>{"down 1", "up", "click", "dblclick", "up", "down 2",
                                            "up", "down 1", "up"}));
-}
-
-}  // namespace
-
-namespace {
-
-TEST_F(PictureBoxTest, AutoSizeFollowsThePictureUntilSwitchedOff) {
-  box_.SetAutoRedraw(true);
-  box_.SetAutoSize(true);
-  box_.SetPicture(SolidPicture(20, 10, kGreen));
-  EXPECT_EQ(box_.ScaleWidth(), 20);
-  EXPECT_EQ(box_.ScaleHeight(), 10);
-  RECT client{};
-  ::GetClientRect(box_.Hwnd(), &client);
-  EXPECT_EQ(client.right, 20);
-  EXPECT_EQ(PicturePixel(box_.Image(), 19, 9), kGreen);
-
-  box_.SetAutoSize(false);
-  box_.Resize(32, 32);
-  EXPECT_EQ(box_.ScaleWidth(), 32);
-  EXPECT_EQ(PicturePixel(box_.Image(), 19, 9), kGreen) << "the picture stays";
-  EXPECT_EQ(PicturePixel(box_.Image(), 25, 25), kBack);
 }
 
 }  // namespace

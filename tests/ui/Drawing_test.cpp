@@ -3,8 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
-#include "support/TestWindow.h"
+#include "support/Pixels.h"
 #include "toolkit/Form.h"
 #include "toolkit/MessageLoop.h"
 #include "toolkit/Screen.h"
@@ -158,61 +159,46 @@ TEST_F(DrawingTest, TilesCoverTheClientAreaEdgeToEdge) {
 // Source: a 16 x 8 bitmap, yellow with a blue block; destination: green.
 struct BltScene {
   BltScene() {
-    screen = ::GetDC(nullptr);
-    src = ::CreateCompatibleDC(screen);
-    dst = ::CreateCompatibleDC(screen);
-    srcBits = ::CreateCompatibleBitmap(screen, 16, 8);
-    dstBits = ::CreateCompatibleBitmap(screen, 16, 8);
-    oldSrc = ::SelectObject(src, srcBits);
-    oldDst = ::SelectObject(dst, dstBits);
-    Fill(src, RECT{0, 0, 16, 8}, kYellow);
-    Fill(dst, RECT{0, 0, 16, 8}, RGB(0, 128, 0));
+    ::SelectObject(src, srcPicture.Handle());
+    ::SelectObject(dst, dstPicture.Handle());
+    RECT block{3, 2, 9, 6};
+    ::SetDCBrushColor(src, kBlue);
+    ::FillRect(src, &block, static_cast<HBRUSH>(::GetStockObject(DC_BRUSH)));
   }
   ~BltScene() {
-    ::SelectObject(src, oldSrc);
-    ::SelectObject(dst, oldDst);
-    ::DeleteObject(srcBits);
-    ::DeleteObject(dstBits);
-    ::DeleteDC(src);
+    ::DeleteDC(src);  // before the pictures release their bitmaps
     ::DeleteDC(dst);
-    ::ReleaseDC(nullptr, screen);
   }
-  static void Fill(HDC dc, RECT area, COLORREF colour) {
-    HBRUSH brush = ::CreateSolidBrush(colour);
-    ::FillRect(dc, &area, brush);
-    ::DeleteObject(brush);
-  }
-  std::string Pixels() const {
-    std::string all;
+  std::vector<COLORREF> Pixels() const {
+    std::vector<COLORREF> all;
     for (int y = 0; y < 8; ++y) {
-      for (int x = 0; x < 16; ++x) all += std::to_string(::GetPixel(dst, x, y)) + ",";
+      for (int x = 0; x < 16; ++x) all.push_back(::GetPixel(dst, x, y));
     }
     return all;
   }
-  static constexpr COLORREF kYellow = RGB(255, 255, 0);
-  HDC screen, src, dst;
-  HBITMAP srcBits, dstBits;
-  HGDIOBJ oldSrc, oldDst;
+  static constexpr COLORREF kYellow = RGB(255, 255, 0), kBlue = RGB(0, 0, 255);
+  toolkit::Picture srcPicture = testing_support::SolidPicture(16, 8, kYellow);
+  toolkit::Picture dstPicture = testing_support::SolidPicture(16, 8, RGB(0, 128, 0));
+  HDC src = ::CreateCompatibleDC(nullptr), dst = ::CreateCompatibleDC(nullptr);
 };
 
 TEST(CustomBlt, TheMaskMethodGivesThePlatformsTransparentCopy) {
   BltScene masked, platform;
-  for (BltScene* scene : {&masked, &platform})
-    BltScene::Fill(scene->src, RECT{3, 2, 9, 6}, RGB(0, 0, 255));
   ui::CustomBltMasked(masked.dst, 2, 1, 12, 6, masked.src, 1, 1, BltScene::kYellow);
   ::GdiTransparentBlt(platform.dst, 2, 1, 12, 6, platform.src, 1, 1, 12, 6, BltScene::kYellow);
   EXPECT_EQ(masked.Pixels(), platform.Pixels());
   EXPECT_EQ(::GetPixel(masked.dst, 2, 1), RGB(0, 128, 0));
-  EXPECT_EQ(::GetPixel(masked.dst, 4, 2), RGB(0, 0, 255));
+  EXPECT_EQ(::GetPixel(masked.dst, 4, 2), BltScene::kBlue);
 }
 
 TEST(CustomBlt, AllTransparentChangesNothingAndNoneTransparentIsAPlainCopy) {
   BltScene scene;
-  std::string before = scene.Pixels();
-  ui::CustomBlt(scene.dst, 0, 0, 16, 8, scene.src, 0, 0, BltScene::kYellow);
+  const auto before = scene.Pixels();
+  ui::CustomBlt(scene.dst, 9, 0, 7, 8, scene.src, 9, 0, BltScene::kYellow);
   EXPECT_EQ(scene.Pixels(), before);
   ui::CustomBlt(scene.dst, 0, 0, 16, 8, scene.src, 0, 0, RGB(1, 2, 3));
-  EXPECT_EQ(::GetPixel(scene.dst, 5, 5), BltScene::kYellow);
+  EXPECT_EQ(::GetPixel(scene.dst, 0, 0), BltScene::kYellow);
+  EXPECT_EQ(::GetPixel(scene.dst, 5, 5), BltScene::kBlue);
 }
 
 TEST_F(DrawingTest, EtchedLinesDrawInTwipsAndConvertTheCallersPixels) {

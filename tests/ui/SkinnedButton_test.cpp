@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "support/TestWindow.h"
+#include "support/Pixels.h"
 #include "toolkit/Form.h"
 #include "toolkit/MessageLoop.h"
 #include "toolkit/Screen.h"

@@ -1,5 +1,6 @@
-"""Checks what scripts/make_art.py and scripts/make_font.py generate.
-Run from the repository root: /usr/bin/python3 -m unittest discover -s tests/scripts -v
+"""Checks what scripts/make_art.py, make_font.py and make_folder_icons.py
+generate. Run from the repository root:
+/usr/bin/python3 -m unittest discover -s tests/scripts -v
 """
 
 import math
@@ -17,6 +18,8 @@ from fontTools.ttLib import TTFont
 from PIL import Image
 
 SCRIPTS = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..", "scripts")
+# Folder icons without a symbol.
+PLAIN_FOLDERS = ("folder", "blue", "green", "red", "purple", "orange", "pink", "teal", "graphite")
 YELLOW = (255, 255, 0)
 CLIENT = (577, 428)
 # Window elements (left, top, right, bottom; right and bottom exclusive); the
@@ -33,9 +36,25 @@ def build(script, target):
     subprocess.run([sys.executable, os.path.join(SCRIPTS, script), target], check=True)
 
 
-def same_bytes(a, b):
-    with open(a, "rb") as fa, open(b, "rb") as fb:
-        return fa.read() == fb.read()
+def read(path):
+    with open(path, "rb") as f:
+        return f.read()
+
+
+def read_all(folder):
+    return {name: read(os.path.join(folder, name)) for name in sorted(os.listdir(folder))}
+
+
+def ico_images(path):
+    """(width, height, bits per pixel) of each image of an .ico, sorted."""
+    data = read(path)
+    kind, count = struct.unpack_from("<HH", data, 2)
+    entries = [struct.unpack_from("<BBBBHH", data, 6 + 16 * i) for i in range(count)]
+    return [kind] + sorted((e[0], e[1], e[5]) for e in entries)
+
+
+# An icon file (type 1) with 16, 32 and 48 pixel images of 32 bits.
+THREE_SIZES = [1, (16, 16, 32), (32, 32, 32), (48, 48, 32)]
 
 
 def luminance(rgb):
@@ -98,7 +117,7 @@ class ArtTest(unittest.TestCase):
 
     def test_rebuild_gives_identical_bytes(self):
         for name in ("skin.bmp", "logo.bmp", "morvane.ico"):
-            self.assertTrue(same_bytes(*(os.path.join(self.tmp.name, run, name) for run in "ab")))
+            self.assertEqual(*(read(os.path.join(self.tmp.name, run, name)) for run in "ab"))
 
     def test_skin_covers_a_button_face_and_tiles_seamlessly(self):
         skin = self.open("skin.bmp").convert("RGB")
@@ -139,12 +158,7 @@ class ArtTest(unittest.TestCase):
         self.assertEqual([p for p in art if max(abs(c - k) for c, k in zip(p, YELLOW)) <= 40], [])
 
     def test_icon_holds_three_sizes_with_alpha(self):
-        with open(os.path.join(self.tmp.name, "a", "morvane.ico"), "rb") as f:
-            data = f.read()
-        self.assertEqual(struct.unpack_from("<HHH", data), (0, 1, 3))
-        entries = [struct.unpack_from("<BBBBHHII", data, 6 + 16 * i) for i in range(3)]
-        self.assertEqual(sorted((e[0], e[1], e[5]) for e in entries),
-                         [(16, 16, 32), (32, 32, 32), (48, 48, 32)])
+        self.assertEqual(ico_images(os.path.join(self.tmp.name, "a", "morvane.ico")), THREE_SIZES)
         with self.open("morvane.ico") as icon:
             for size in (16, 32, 48):
                 alpha = icon.ico.getimage((size, size)).convert("RGBA").getchannel("A")
@@ -166,7 +180,7 @@ class FontTest(unittest.TestCase):
         cls.tmp.cleanup()
 
     def test_rebuild_gives_identical_bytes(self):
-        self.assertTrue(same_bytes(*self.paths))
+        self.assertEqual(*(read(path) for path in self.paths))
         # Two quick builds can share a clock second; a build-time stamp would
         # still make later rebuilds differ.
         head = self.font["head"]
@@ -210,6 +224,51 @@ class FontTest(unittest.TestCase):
         for outside in ((570, 5), (400, 20), (320, 30), (576, 44), (576, 427), (0, 427)):
             self.assertNotIn(outside, self.inside)
         self.assertGreater(len(self.inside), 0.85 * CLIENT[0] * CLIENT[1])
+
+
+class FolderIconsTest(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.tmp = tempfile.TemporaryDirectory()
+        cls.out = os.path.join(cls.tmp.name, "a")
+        build("make_folder_icons.py", cls.out)
+        with open(os.path.join(cls.out, "iconos.rc")) as f:
+            cls.listed = [line.split('"')[1] for line in f if " ICON " in line]
+        cls.images = {}  # name -> {size: RGBA image}
+        for name in cls.listed:
+            icon = Image.open(os.path.join(cls.out, name))
+            cls.images[name] = {}
+            for size in icon.info["sizes"]:
+                icon.size = size
+                cls.images[name][size[0]] = icon.convert("RGBA").copy()
+
+    @classmethod
+    def tearDownClass(cls):
+        cls.tmp.cleanup()
+
+    def test_rebuild_gives_identical_bytes(self):
+        again = os.path.join(self.tmp.name, "b")
+        build("make_folder_icons.py", again)
+        self.assertEqual(read_all(self.out), read_all(again))
+
+    def test_enough_distinct_icons_of_three_sizes_in_32_bits_clear_around_the_folder(self):
+        self.assertGreaterEqual(len(self.listed), 24)
+        for name in self.listed:
+            self.assertEqual(ico_images(os.path.join(self.out, name)), THREE_SIZES, name)
+            large = self.images[name][32]
+            self.assertEqual((large.getpixel((0, 0))[3], large.getpixel((16, 16))[3]), (0, 255))
+        larges = [self.images[name][32].tobytes() for name in self.listed]
+        self.assertEqual(len(set(larges)), len(larges), "an icon repeats another")
+
+    def test_symbols_stand_out_at_every_size(self):
+        # A folder with a symbol carries near-white pixels on its front flap
+        # at every size; a plain one carries none there.
+        for name in self.listed:
+            plain = name.split("_", 1)[1][:-4] in PLAIN_FOLDERS
+            for size, image in self.images[name].items():
+                flap = image.crop((size // 4, size * 11 // 20, size * 3 // 4, size * 17 // 20))
+                white = sum(1 for r, g, b, a in flap.getdata() if min(r, g, b) > 225 and a > 200)
+                self.assertEqual(white == 0, plain, "%s at %d" % (name, size))
 
 
 if __name__ == "__main__":
