@@ -24,7 +24,8 @@ constexpr float kEtchedLineLength = 300;
 }  // namespace
 
 void FrmPrincipal::Tile() {
-  if (frame::loadingIcons) return;
+  // Without its window (none could be made) there are no faces to paint.
+  if (frame::loadingIcons || !Loaded()) return;
   for (SkinnedButton* button : {browseButton_.get(), applyButton_.get(), exitButton_.get()}) {
     button->ClearHover();
     button->ResetFace(*picBack_);

@@ -54,6 +54,9 @@ TEST_F(MainWindowTest, ApplyingTheFifthIconAsksWritesTheFileAndKeepsTheWindow) {
   std::this_thread::sleep_for(500ms);
   EXPECT_EQ(Settings("IconIndex"), "4");
   EXPECT_EQ(Settings("IconFile"), program_.Folder() + "iconos.dll");
+  const DWORD hiddenSystem = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
+  EXPECT_EQ(::GetFileAttributesA((target_ / "Desktop.ini").c_str()) & hiddenSystem, hiddenSystem);
+  EXPECT_TRUE(::GetFileAttributesA(target_.Path().c_str()) & FILE_ATTRIBUTE_SYSTEM);
   EXPECT_TRUE(::IsWindow(main_)) << "the window stays after applying from the button";
 }
 
@@ -99,15 +102,70 @@ TEST_F(MainWindowTest, TheWindowRefusesToCloseWhileTheFileChooserIsOpen) {
   EXPECT_TRUE(child_->WaitForExit(kLimit));
 }
 
-TEST_F(MainWindowTest, ChoosingARecentFileLoadsItsIcons) {
-  ASSERT_TRUE(Close());
+TEST_F(MainWindowTest, AFileOpenedInOneRunIsOfferedFirstInTheNext) {
   const std::string library = testing_support::TestFolder() + "ICONS120.DLL";
-  frame::WriteIniValue("Recent", "ARA01", library, program_.File("ARA.INI"));
+  ClickAt(Element(ui::ids::picBuscarArchivo), Centre(Element(ui::ids::picBuscarArchivo)));
+  ASSERT_NE(WaitForMessageBox(), nullptr);
+  Type(library);
+  PressKey(VK_RETURN);
+  ASSERT_TRUE(WaitUntil([this] { return Count() == 120; }));
+  ASSERT_TRUE(Close());
+
+  iconsToList_ = 31;
   Start();
   ClickAt(Element(ui::ids::cboARA), {20, 10});
   PressKey(VK_ESCAPE);
   PressKey(VK_DOWN);
   EXPECT_TRUE(WaitUntil([this] { return Count() == 120; }));
+}
+
+TEST_F(MainWindowTest, ASecondCopyEndsSilentlyAndLeavesTheRunAlone) {
+  testing_support::ChildProcess second(program_.Exe(),
+                                       "\"" + program_.Exe() + "\" " + target_.Path());
+  ASSERT_TRUE(second.WaitForExit(kLimit));
+  EXPECT_EQ(second.ExitCode(), 0u);
+  EXPECT_TRUE(::IsWindowVisible(main_));
+  EXPECT_TRUE(PathExists(program_.File("Morvane.ttf"))) << "the second copy must not clean up";
+}
+
+// The screen's pixels at the corners of a button: a raised frame is white at
+// the top left and grey at the bottom right, a sunken one the other way round.
+std::string Frame(HWND button) {
+  RECT place{};
+  ::GetWindowRect(button, &place);
+  HDC screen = ::GetDC(nullptr);
+  auto corner = [&](int x, int y) {
+    COLORREF c = ::GetPixel(screen, x, y);
+    return c == RGB(255, 255, 255) ? 'w' : c == RGB(128, 128, 128) ? 'g' : '.';
+  };
+  std::string seen{corner(place.left, place.top), corner(place.right - 1, place.bottom - 1)};
+  ::ReleaseDC(nullptr, screen);
+  return seen;
+}
+
+TEST_F(MainWindowTest, ButtonsRiseUnderThePointerSinkWhenPressedAndGoFlatOffThem) {
+  HWND exit = Element(ui::ids::picSalir);
+  HWND browse = Element(ui::ids::picBuscarArchivo);
+  auto shows = [](HWND button, const char* frame) {
+    return WaitUntil([&] { return Frame(button) == frame; }, 3s);
+  };
+  EXPECT_TRUE(shows(exit, ".."));
+  PointAt(exit, Centre(exit));
+  EXPECT_TRUE(shows(exit, "wg")) << Frame(exit);
+  PointAt(main_, {259, 200});  // the background repaints every face flat
+  EXPECT_TRUE(shows(exit, "..")) << Frame(exit);
+
+  PointAt(browse, Centre(browse));
+  INPUT press{};
+  press.type = INPUT_MOUSE;
+  press.mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
+  ::SendInput(1, &press, sizeof press);
+  EXPECT_TRUE(shows(browse, "gw")) << Frame(browse);
+  press.mi.dwFlags = MOUSEEVENTF_LEFTUP;
+  ::SendInput(1, &press, sizeof press);
+  HWND chooser = WaitForMessageBox();
+  ASSERT_NE(chooser, nullptr);
+  ::PostMessageA(chooser, WM_COMMAND, IDCANCEL, 0);
 }
 
 }  // namespace

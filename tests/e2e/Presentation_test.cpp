@@ -86,7 +86,7 @@ TEST_F(PresentationTest, TheShadowCatchesUpWithAMoveWithinATick) {
   // Dragging the background moves the window; the shadow follows.
   const RECT before = ScreenRect(main_);
   Drag(main_, {259, 200}, {60, 45});
-  EXPECT_TRUE(WaitUntil([&] { return ScreenRect(main_).left != before.left; }, 2s));
+  EXPECT_TRUE(WaitUntil([&] { return ScreenRect(main_).left != before.left; }));
   EXPECT_EQ(ScreenRect(main_).left - before.left, 60);
   EXPECT_EQ(ScreenRect(main_).top - before.top, 45);
   EXPECT_TRUE(WaitUntil([&] { return ShadowInPlace(main_, shadow); }, 1s));
@@ -99,7 +99,7 @@ TEST_F(PresentationTest, ClickingTheShadowBringsTheMainWindowForward) {
   ::SetWindowPos(shadow, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   ASSERT_TRUE(Above(shadow, main_));
   ClickAt(shadow, {300, 200});
-  EXPECT_TRUE(WaitUntil([&] { return Above(main_, shadow); }, 2s));
+  EXPECT_TRUE(WaitUntil([&] { return Above(main_, shadow); }));
 }
 
 // Start-up with a large icon library, so that the splash stays up while the
@@ -139,7 +139,7 @@ TEST_F(SplashTest, ShowsWithoutButtonsDuringStartUpAndIsGoneAfter) {
   ASSERT_NE(main_, nullptr);
   EXPECT_TRUE(Above(splash_, main_)) << "in front while the icons load";
   FinishStart();
-  EXPECT_TRUE(WaitUntil([this] { return !::IsWindowVisible(splash_); }, 2s));
+  EXPECT_TRUE(WaitUntil([this] { return !::IsWindowVisible(splash_); }));
 }
 
 // Start-up lets messages run at its waiting points, not while the icons load:
@@ -147,7 +147,7 @@ TEST_F(SplashTest, ShowsWithoutButtonsDuringStartUpAndIsGoneAfter) {
 TEST_F(SplashTest, AClickClosesItAtOnceAndStartUpGoesOn) {
   // Where the buttons would be, the message covers the splash.
   ClickAt(splash_, {360, 200});
-  EXPECT_TRUE(WaitUntil([this] { return !::IsWindowVisible(splash_); }, 1s));
+  EXPECT_TRUE(WaitUntil([this] { return !::IsWindowVisible(splash_); }));
   EXPECT_LT(Count(), iconsToList_) << "closed by the click, not by the end of start-up";
   FinishStart();
 }
@@ -159,14 +159,14 @@ TEST_F(SplashTest, AskingForTheAboutWindowMeanwhileIsIgnored) {
   ClickAt(main_, {555, 60});  // the help link
   FinishStart();
   EXPECT_TRUE(::IsWindowEnabled(main_));
-  EXPECT_TRUE(WaitUntil([this] { return !::IsWindowVisible(splash_); }, 2s));
+  EXPECT_TRUE(WaitUntil([this] { return !::IsWindowVisible(splash_); }));
 
   ClickAt(main_, {555, 60});
   HWND about = child_->WaitForWindow(kFormClass, kLimit, "frmSplash");
   ASSERT_NE(about, nullptr);
   EXPECT_TRUE(::IsWindowVisible(::GetDlgItem(about, ui::ids::picAceptar)));
   ClickAt(::GetDlgItem(about, ui::ids::picAceptar), {20, 10});
-  EXPECT_TRUE(WaitUntil([&] { return !::IsWindowVisible(about); }, 2s));
+  EXPECT_TRUE(WaitUntil([&] { return !::IsWindowVisible(about); }));
 }
 
 }  // namespace

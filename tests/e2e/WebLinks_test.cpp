@@ -87,7 +87,7 @@ TEST_F(WebLinksTest, EachButtonAsksForItsPageInTheUsersLanguageWithAFreshClient)
   ClickAt(ok, Centre(ok), Button::Right);
   EXPECT_TRUE(::IsWindowVisible(about)) << "only a left click closes it";
   ClickAt(ok, Centre(ok));
-  EXPECT_TRUE(WaitUntil([&] { return !::IsWindowVisible(about); }, 2s));
+  EXPECT_TRUE(WaitUntil([&] { return !::IsWindowVisible(about); }));
 }
 
 }  // namespace
