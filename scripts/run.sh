@@ -15,7 +15,7 @@ if [ ! -d "$1" ]; then
   echo "$0: not a folder: $1" >&2
   exit 2
 fi
-folder=$(cd "$1" && pwd)
+folder=$(cd -- "$1" && pwd)
 
 mkdir -p "$build_dir"
 log="$build_dir/build.log"
