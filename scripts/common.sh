@@ -9,11 +9,18 @@ export WINEDEBUG=${WINEDEBUG:--all}
 # menu entries: a shell notification would otherwise start winemenubuilder.
 export WINEDLLOVERRIDES=${WINEDLLOVERRIDES:-mscoree,mshtml,winemenubuilder.exe=}
 
+# What build/dist ships; the tests are not among them.
+dist_targets=(Morvane iconos_dll)
+
+# build_morvane [TARGET...]: installs what is missing and builds the given
+# targets, or everything.
 build_morvane() {
   bash "$repo_root/scripts/install-deps.sh"
   cmake -S "$repo_root" -B "$build_dir" \
     -DCMAKE_TOOLCHAIN_FILE="$repo_root/cmake/mingw-w64-x86_64.cmake" >/dev/null
-  cmake --build "$build_dir" -j"$(nproc)"
+  local targets=()
+  [ $# -gt 0 ] && targets=(--target "$@")
+  cmake --build "$build_dir" -j"$(nproc)" "${targets[@]}"
 }
 
 # Creates the prefix on first use (about 10 s), later a no-op.
@@ -65,4 +72,14 @@ stop_virtual_display() {
     wait "$xvfb_pid" 2>/dev/null
     xvfb_pid=""
   fi
+}
+
+# Runs a Windows command line exactly as written. Given separate arguments,
+# Wine rebuilds the line and quotes every argument that holds a blank; its
+# cmd runs a line as written, and a variable expanded after the line is
+# parsed keeps runs of blanks, quotes, "&" and "^". Wine's cmd does expand
+# %NAME% and !NAME! again inside that text when NAME is set in the
+# environment: callers keep such text out. Returns when the program ends.
+wine_command_line() {
+  MORVANE_COMMAND_LINE=$1 wine cmd.exe /v:on /c '!MORVANE_COMMAND_LINE!' </dev/null
 }

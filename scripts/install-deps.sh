@@ -9,7 +9,7 @@ packages=(
   wine wine64 fonts-wine
   xvfb xauth x11-utils xdotool
   python3-fonttools python3-pil fonts-dejavu-core
-  imagemagick icoutils attr
+  imagemagick icoutils attr nsis
 )
 
 missing=()
