@@ -52,6 +52,26 @@ TEST_F(PictureBoxTest, PersistentDrawingGoesIntoTheImageAndReachesTheScreen) {
   EXPECT_EQ(OnScreen(20, 20), kBack);
 }
 
+TEST_F(PictureBoxTest, TheScreenKeepsUpWithChangesMadeWhileHiddenOrBeforeAPaint) {
+  box_.SetAutoRedraw(true);
+  box_.SetVisible(false);
+  Mark(box_.hDC(), kRed);
+  box_.Refresh();
+  box_.SetVisible(true);
+  EXPECT_EQ(OnScreen(1, 1), kRed) << "drawn while hidden";
+
+  box_.SetPicture(SolidPicture(8, 8, kGreen));
+  box_.SetPicture({});
+  EXPECT_EQ(OnScreen(1, 1), kBack) << "two changes before one paint";
+
+  // Refresh shows the drawing at once, with no message pump in between.
+  Mark(box_.hDC(), kGreen);
+  box_.Refresh();
+  HDC screen = ::GetDC(box_.Hwnd());
+  EXPECT_EQ(::GetPixel(screen, 1, 1), kGreen);
+  ::ReleaseDC(box_.Hwnd(), screen);
+}
+
 TEST_F(PictureBoxTest, DrawingWithoutPersistenceLeavesTheImageAlone) {
   box_.SetAutoRedraw(false);
   Mark(box_.hDC(), kRed);
