@@ -64,7 +64,19 @@ void ListView::Select(int index) {
                  reinterpret_cast<LPARAM>(&state));
 }
 
+ListView::ItemBatch::ItemBatch(ListView& list) : list_(list.Hwnd()) {
+  ::SendMessageA(list_, WM_SETREDRAW, FALSE, 0);
+}
+
+ListView::ItemBatch::~ItemBatch() {
+  ::SendMessageA(list_, WM_SETREDRAW, TRUE, 0);
+  ::InvalidateRect(list_, nullptr, TRUE);
+}
+
 LRESULT ListView::OnNotify(NMHDR& header) {
+  // Nobody here follows single deletions, so clearing the list need not
+  // announce each item on its way out.
+  if (header.code == LVN_DELETEALLITEMS) return TRUE;
   if (header.code == NM_CLICK) {
     int item = reinterpret_cast<NMITEMACTIVATE&>(header).iItem;
     if (item >= 0 && onItemClick) onItemClick(item + 1);

@@ -98,6 +98,23 @@ TEST_F(ControlsTest, ListViewRefusesItemsWithoutImagesOrWithTakenKeys) {
   EXPECT_EQ(form_.images->IndexOf("c0"), 0);
 }
 
+TEST_F(ControlsTest, ItemsAddedInABatchAreShownAndScrollTogether) {
+  constexpr int kItems = 60;  // many more than the list shows at once
+  FillList(kItems, 0);
+  {
+    toolkit::ListView::ItemBatch batch(*form_.list);
+    for (int j = 1; j <= kItems; ++j) form_.list->AddItem("a" + std::to_string(j), "", j);
+  }
+  toolkit::DoEvents();
+  EXPECT_EQ(form_.list->Count(), kItems);
+  EXPECT_TRUE(form_.list->Visible());
+  SCROLLINFO scroll{};
+  scroll.cbSize = sizeof scroll;
+  scroll.fMask = SIF_RANGE | SIF_PAGE;
+  ASSERT_TRUE(::GetScrollInfo(form_.list->Hwnd(), SB_VERT, &scroll));
+  EXPECT_GT(scroll.nMax - scroll.nMin + 1, static_cast<int>(scroll.nPage));
+}
+
 TEST_F(ControlsTest, ClickingAnItemReportsItsPosition) {
   FillList(2, 2);
   RECT item{LVIR_ICON, 0, 0, 0};
