@@ -126,28 +126,48 @@ TEST_F(ControlsTest, ClickingAnItemReportsItsPosition) {
   EXPECT_EQ(form_.log, (Log{"item 2"}));
 }
 
+// A copy of a 32 x 32 picture as a 32-bit DIB section stored top-down
+// (rows < 0) or bottom-up (rows > 0), as picture surfaces make them.
+toolkit::Picture DibCopy(const toolkit::Picture& picture, int rows) {
+  BITMAPINFO info{};
+  info.bmiHeader = {sizeof(BITMAPINFOHEADER), 32, rows, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+  void* bits = nullptr;
+  HBITMAP copy = ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+  HDC source = ::CreateCompatibleDC(nullptr);
+  HDC target = ::CreateCompatibleDC(nullptr);
+  HGDIOBJ oldSource = ::SelectObject(source, picture.Handle());
+  HGDIOBJ oldTarget = ::SelectObject(target, copy);
+  ::BitBlt(target, 0, 0, 32, 32, source, 0, 0, SRCCOPY);
+  ::SelectObject(source, oldSource);
+  ::SelectObject(target, oldTarget);
+  ::DeleteDC(source);
+  ::DeleteDC(target);
+  return toolkit::Picture::Adopt(toolkit::Picture::Kind::Bitmap, copy);
+}
+
 TEST_F(ControlsTest, TheMaskColourOfAnImageListIsTransparent) {
   form_.images->SetMaskColor(kMask);
-  toolkit::Picture picture = SolidPicture(32, 32, kMask);
-  HDC dc = ::GetDC(nullptr);
-  HDC memory = ::CreateCompatibleDC(dc);
-  HBITMAP bitmap = static_cast<HBITMAP>(picture.Handle());
-  HGDIOBJ old = ::SelectObject(memory, bitmap);
-  RECT inner{8, 8, 24, 24};
+  toolkit::Picture masked = SolidPicture(32, 32, kMask);
+  HDC memory = ::CreateCompatibleDC(nullptr);
+  HGDIOBJ old = ::SelectObject(memory, masked.Handle());
+  RECT upper{8, 4, 24, 12};
   HBRUSH blue = ::CreateSolidBrush(RGB(0, 0, 255));
-  ::FillRect(memory, &inner, blue);
-  ::SelectObject(memory, old);
-  form_.images->Add("c0", picture);
-
-  toolkit::Picture target = SolidPicture(32, 32, RGB(0, 200, 0));
-  old = ::SelectObject(memory, target.Handle());
-  ::ImageList_Draw(form_.images->Handle(), 0, memory, 0, 0, ILD_TRANSPARENT);
+  ::FillRect(memory, &upper, blue);
   ::SelectObject(memory, old);
   ::DeleteObject(blue);
+
+  const toolkit::Picture kinds[] = {masked, DibCopy(masked, -32), DibCopy(masked, 32)};
+  for (int kind = 0; kind < 3; ++kind) {
+    form_.images->Add("c" + std::to_string(kind), kinds[kind]);
+    toolkit::Picture target = SolidPicture(32, 32, RGB(0, 200, 0));
+    old = ::SelectObject(memory, target.Handle());
+    ::ImageList_Draw(form_.images->Handle(), kind, memory, 0, 0, ILD_TRANSPARENT);
+    ::SelectObject(memory, old);
+    EXPECT_EQ(testing_support::PicturePixel(target, 2, 2), RGB(0, 200, 0)) << "kind " << kind;
+    EXPECT_EQ(testing_support::PicturePixel(target, 16, 24), RGB(0, 200, 0)) << "kind " << kind;
+    EXPECT_EQ(testing_support::PicturePixel(target, 16, 8), RGB(0, 0, 255)) << "kind " << kind;
+  }
   ::DeleteDC(memory);
-  ::ReleaseDC(nullptr, dc);
-  EXPECT_EQ(testing_support::PicturePixel(target, 2, 2), RGB(0, 200, 0));
-  EXPECT_EQ(testing_support::PicturePixel(target, 16, 16), RGB(0, 0, 255));
 }
 
 TEST_F(ControlsTest, ToolTipsAreSetAndReplaced) {
