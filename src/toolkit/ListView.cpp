@@ -1,5 +1,7 @@
 #include "toolkit/ListView.h"
 
+#include <limits>
+
 namespace toolkit {
 
 ListView::ListView(std::string name, HWND parent, const RECT& pixels, int id)
@@ -34,7 +36,8 @@ void ListView::AddItem(const std::string& key, const std::string& text, int icon
   if (keys_.count(key)) throw ElementError("Key is not unique in collection");
   LVITEMA item{};
   item.mask = LVIF_TEXT | LVIF_IMAGE;
-  item.iItem = Count();
+  // Past the end appends: one message fewer per item than asking the count.
+  item.iItem = std::numeric_limits<int>::max();
   item.pszText = const_cast<char*>(text.c_str());
   item.iImage = icon - 1;
   LRESULT at = ::SendMessageA(Hwnd(), LVM_INSERTITEMA, 0, reinterpret_cast<LPARAM>(&item));
@@ -64,7 +67,19 @@ void ListView::Select(int index) {
                  reinterpret_cast<LPARAM>(&state));
 }
 
+ListView::ItemBatch::ItemBatch(ListView& list) : list_(list.Hwnd()) {
+  ::SendMessageA(list_, WM_SETREDRAW, FALSE, 0);
+}
+
+ListView::ItemBatch::~ItemBatch() {
+  ::SendMessageA(list_, WM_SETREDRAW, TRUE, 0);
+  ::InvalidateRect(list_, nullptr, TRUE);
+}
+
 LRESULT ListView::OnNotify(NMHDR& header) {
+  // Nobody here follows single deletions, so clearing the list need not
+  // announce each item on its way out.
+  if (header.code == LVN_DELETEALLITEMS) return TRUE;
   if (header.code == NM_CLICK) {
     int item = reinterpret_cast<NMITEMACTIVATE&>(header).iItem;
     if (item >= 0 && onItemClick) onItemClick(item + 1);

@@ -2,13 +2,15 @@
 
 #include <windowsx.h>
 
+#include <cstring>
+
 namespace toolkit {
 namespace {
 
 constexpr char kPictureBoxClass[] = "MorvanePictureBox";
 
 // A top-down 32-bit DIB section, so that callers can read its pixels.
-HBITMAP CreateImageBitmap(int width, int height) {
+HBITMAP CreateImageBitmap(int width, int height, void** bits) {
   BITMAPINFO info{};
   info.bmiHeader.biSize = sizeof(BITMAPINFOHEADER);
   info.bmiHeader.biWidth = width;
@@ -16,8 +18,11 @@ HBITMAP CreateImageBitmap(int width, int height) {
   info.bmiHeader.biPlanes = 1;
   info.bmiHeader.biBitCount = 32;
   info.bmiHeader.biCompression = BI_RGB;
-  void* bits = nullptr;
-  return ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+  return ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, bits, nullptr, 0);
+}
+
+std::size_t ImageBytes(int width, int height) {
+  return static_cast<std::size_t>(width) * static_cast<std::size_t>(height) * sizeof(RGBQUAD);
 }
 
 }  // namespace
@@ -117,11 +122,21 @@ void PictureBox::PaintBackground(HDC dc) const {
 
 void PictureBox::Cls() {
   PaintBackground(imageDC_.get());
-  if (Hwnd()) ::InvalidateRect(Hwnd(), nullptr, FALSE);
+  RequestRepaint();
+}
+
+// Each request is a trip to the Wine server, and a loop that draws for
+// every icon it loads makes thousands. One request stands until the paint
+// comes, and a hidden surface needs none: showing it repaints it whole.
+void PictureBox::RequestRepaint() const {
+  if (!Hwnd() || repaintRequested_ || !::IsWindowVisible(Hwnd())) return;
+  ::InvalidateRect(Hwnd(), nullptr, FALSE);
+  repaintRequested_ = true;
 }
 
 void PictureBox::MakeImage() {
-  ScopedBitmap fresh(CreateImageBitmap(width_ > 0 ? width_ : 1, height_ > 0 ? height_ : 1));
+  ScopedBitmap fresh(
+      CreateImageBitmap(width_ > 0 ? width_ : 1, height_ > 0 ? height_ : 1, &imageBits_));
   HGDIOBJ previous = ::SelectObject(imageDC_.get(), fresh.get());
   if (!imageDCOriginal_) imageDCOriginal_ = previous;
   image_ = std::move(fresh);
@@ -151,24 +166,25 @@ void PictureBox::SetPicture(Picture picture) {
 }
 
 Picture PictureBox::Image() const {
-  HBITMAP copy = CreateImageBitmap(width_, height_);
+  void* bits = nullptr;
+  HBITMAP copy = CreateImageBitmap(width_, height_, &bits);
   if (!copy) return {};
-  ScopedMemoryDC target(::CreateCompatibleDC(imageDC_.get()));
-  {
-    ScopedSelect select(target.get(), copy);
-    ::BitBlt(target.get(), 0, 0, width_, height_, imageDC_.get(), 0, 0, SRCCOPY);
+  // Both are top-down 32-bit images of the same size: a plain copy of the
+  // pixels saves the device contexts a blit needs, once per loaded icon.
+  if (imageBits_ && width_ > 0 && height_ > 0) {
+    ::GdiFlush();
+    std::memcpy(bits, imageBits_, ImageBytes(width_, height_));
   }
   return Picture::Adopt(Picture::Kind::Bitmap, copy);
 }
 
 void PictureBox::Drawn() const {
-  if (autoRedraw_ && Hwnd()) ::InvalidateRect(Hwnd(), nullptr, FALSE);
+  if (autoRedraw_) RequestRepaint();
 }
 
 void PictureBox::Refresh() {
-  if (!Hwnd()) return;
-  ::InvalidateRect(Hwnd(), nullptr, FALSE);
-  ::UpdateWindow(Hwnd());
+  RequestRepaint();
+  if (repaintRequested_) ::UpdateWindow(Hwnd());
 }
 
 void PictureBox::SetVisible(bool visible) {
@@ -180,6 +196,7 @@ bool PictureBox::Visible() const {
 }
 
 void PictureBox::OnPaint() {
+  repaintRequested_ = false;
   PAINTSTRUCT paint;
   HDC dc = ::BeginPaint(Hwnd(), &paint);
   if (autoRedraw_) {

@@ -87,6 +87,7 @@ class PictureBox : public Element, public Canvas, private WindowBase {
   void PaintBackground(HDC dc) const;
   void PrepareDC(HDC dc) const;
   void MakeImage();
+  void RequestRepaint() const;
 
   int width_;
   int height_;
@@ -99,8 +100,11 @@ class PictureBox : public Element, public Canvas, private WindowBase {
   Picture picture_;
   ScopedMemoryDC imageDC_;
   ScopedBitmap image_;
+  void* imageBits_ = nullptr;  // the pixels of image_
   HGDIOBJ imageDCOriginal_ = nullptr;
   MouseHandlers* pressed_ = nullptr;
+  // A repaint was asked for and the paint has not come yet.
+  mutable bool repaintRequested_ = false;
 };
 
 }  // namespace toolkit

@@ -30,6 +30,14 @@ class FrmPrincipal : public toolkit::Form,
   void ShowApplyButton(bool visible);
   void ShowDefaultFolderIcon();
 
+  // The steps of CargarIconosdeArchivo, open so that each can be timed alone:
+  // the progress text on the status strip over `background`; one icon
+  // rendered on the scratch surface and added to the image list as image
+  // "c" + `position`; and the items for `count` images.
+  void ShowProgress(int position, int count, const toolkit::Picture& background);
+  void AddIconImage(HICON icon, int position);
+  void ListIcons(int count);
+
  protected:
   void CreateElements() override;
   void OnLoad() override;
@@ -61,7 +69,7 @@ class FrmPrincipal : public toolkit::Form,
   void OnPreviewDblClick();
   void OnDefaultIconDblClick();
   void Browse();
-  void ShowProgress(int position, int count);
+  std::string ProgressText(int position, int count) const;
 
   toolkit::Label* lblSensible_ = nullptr;
   toolkit::Label* lblHelp_ = nullptr;

@@ -8,12 +8,12 @@ constexpr int kCaptionTop = 4;
 constexpr UINT kOneCentredLine = DT_CENTER | DT_SINGLELINE;
 }  // namespace
 
-void DrawCaption(toolkit::PictureBox& surface, const std::string& text) {
+void DrawCaption(toolkit::PictureBox& surface, const std::string& text, WindowText windowText) {
   RECT area{0, kCaptionTop, surface.ScaleWidth(), surface.ScaleHeight()};
   ::DrawTextA(surface.hDC(), text.c_str(), static_cast<int>(text.size()), &area, kOneCentredLine);
-  // What the surface shows in pictures, screen readers and tests read as its
-  // window text.
-  if (surface.Hwnd()) ::SetWindowTextA(surface.Hwnd(), text.c_str());
+  if (windowText == WindowText::kSet && surface.Hwnd()) {
+    ::SetWindowTextA(surface.Hwnd(), text.c_str());
+  }
 }
 
 }  // namespace ui

@@ -5,39 +5,58 @@
 namespace testing_support {
 namespace {
 
-constexpr ULONG_PTR kHandleSlots = 0x10000;
+// Wine keeps GDI objects in a table of 16-bit slots per process and accepts
+// a slot number in place of a full handle. USER handles share one table of
+// the session: slot values are even, from 0x20 up to 0xffee.
+constexpr ULONG_PTR kGdiSlots = 0x10000;
+constexpr ULONG_PTR kFirstUserSlot = 0x20;
+constexpr ULONG_PTR kUserSlotEnd = 0xfff0;
+constexpr ULONG_PTR kUserSlotStep = 2;
 
 template <typename Handle>
 Handle Slot(ULONG_PTR index) {
   return reinterpret_cast<Handle>(index);
 }
 
-std::uint32_t LiveGdiObjects() {
+// Icons and cursors are looked up in the process's own part of the table,
+// so a probe costs no trip to the Wine server (a window probe would).
+std::uint32_t LiveIcons() {
   std::uint32_t count = 0;
-  for (ULONG_PTR slot = 1; slot < kHandleSlots; ++slot) {
-    count += ::GetObjectType(Slot<HGDIOBJ>(slot)) != 0;
+  for (ULONG_PTR slot = kFirstUserSlot; slot < kUserSlotEnd; slot += kUserSlotStep) {
+    ICONINFO info{};
+    if (!::GetIconInfo(Slot<HICON>(slot), &info)) continue;
+    ::DeleteObject(info.hbmColor);
+    ::DeleteObject(info.hbmMask);
+    ++count;
   }
   return count;
 }
 
-bool IsIcon(HICON candidate) {
-  ICONINFO info{};
-  if (!::GetIconInfo(candidate, &info)) return false;
-  ::DeleteObject(info.hbmColor);
-  ::DeleteObject(info.hbmMask);
-  return true;
+BOOL CALLBACK CountWindowAndChildren(HWND window, LPARAM counter);
+
+BOOL CALLBACK CountOne(HWND, LPARAM counter) {
+  ++*reinterpret_cast<std::uint32_t*>(counter);
+  return TRUE;
 }
 
-bool IsOwnWindow(HWND candidate) {
+// The window and all its descendants, when it belongs to this process.
+BOOL CALLBACK CountWindowAndChildren(HWND window, LPARAM counter) {
   DWORD process = 0;
-  return ::IsWindow(candidate) && ::GetWindowThreadProcessId(candidate, &process) &&
-         process == ::GetCurrentProcessId();
+  ::GetWindowThreadProcessId(window, &process);
+  if (process != ::GetCurrentProcessId()) return TRUE;
+  CountOne(window, counter);
+  ::EnumChildWindows(window, CountOne, counter);
+  return TRUE;
 }
 
-std::uint32_t LiveUserObjects() {
+// Top-level and message-only windows of this process, with their children.
+std::uint32_t LiveWindows() {
   std::uint32_t count = 0;
-  for (ULONG_PTR slot = 1; slot < kHandleSlots; ++slot) {
-    count += IsIcon(Slot<HICON>(slot)) || IsOwnWindow(Slot<HWND>(slot));
+  const LPARAM counter = reinterpret_cast<LPARAM>(&count);
+  ::EnumWindows(CountWindowAndChildren, counter);
+  for (HWND window = ::FindWindowExA(HWND_MESSAGE, nullptr, nullptr, nullptr); window;
+       window = ::FindWindowExA(HWND_MESSAGE, window, nullptr, nullptr)) {
+    CountWindowAndChildren(window, counter);
   }
   return count;
 }
@@ -52,10 +71,18 @@ GuiObjectCount CountGuiObjects() {
   if (!count.fromSystem) {
     // The USER count goes first: the bitmaps it copies out of icons are
     // deleted again before the GDI objects are counted.
-    count.user = LiveUserObjects();
-    count.gdi = LiveGdiObjects();
+    count.user = LiveIcons() + LiveWindows();
+    for (const auto& [kind, live] : GdiObjectsByKind()) count.gdi += live;
   }
   return count;
+}
+
+std::map<DWORD, std::uint32_t> GdiObjectsByKind() {
+  std::map<DWORD, std::uint32_t> kinds;
+  for (ULONG_PTR slot = 1; slot < kGdiSlots; ++slot) {
+    if (DWORD kind = ::GetObjectType(Slot<HGDIOBJ>(slot))) ++kinds[kind];
+  }
+  return kinds;
 }
 
 std::uint64_t PrivateBytes() {

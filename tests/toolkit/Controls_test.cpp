@@ -94,25 +94,66 @@ TEST_F(ControlsTest, ListViewRefusesItemsWithoutImagesOrWithTakenKeys) {
   EXPECT_EQ(form_.images->IndexOf("c0"), 0);
 }
 
+TEST_F(ControlsTest, ItemsAddedInABatchAreShownAndScrollTogether) {
+  constexpr int kItems = 60;  // many more than the list shows at once
+  FillList(kItems, 0);
+  {
+    toolkit::ListView::ItemBatch batch(*form_.list);
+    for (int j = 1; j <= kItems; ++j) form_.list->AddItem("a" + std::to_string(j), "", j);
+  }
+  toolkit::DoEvents();
+  EXPECT_EQ(form_.list->Count(), kItems);
+  EXPECT_TRUE(form_.list->Visible());
+  SCROLLINFO scroll{};
+  scroll.cbSize = sizeof scroll;
+  scroll.fMask = SIF_RANGE | SIF_PAGE;
+  ASSERT_TRUE(::GetScrollInfo(form_.list->Hwnd(), SB_VERT, &scroll));
+  EXPECT_GT(scroll.nMax - scroll.nMin + 1, static_cast<int>(scroll.nPage));
+}
+
+// A copy of a 32 x 32 picture as a 32-bit DIB section stored top-down
+// (rows < 0) or bottom-up (rows > 0), as picture surfaces make them.
+toolkit::Picture DibCopy(const toolkit::Picture& picture, int rows) {
+  BITMAPINFO info{};
+  info.bmiHeader = {sizeof(BITMAPINFOHEADER), 32, rows, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+  void* bits = nullptr;
+  HBITMAP copy = ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+  HDC source = ::CreateCompatibleDC(nullptr);
+  HDC target = ::CreateCompatibleDC(nullptr);
+  HGDIOBJ oldSource = ::SelectObject(source, picture.Handle());
+  HGDIOBJ oldTarget = ::SelectObject(target, copy);
+  ::BitBlt(target, 0, 0, 32, 32, source, 0, 0, SRCCOPY);
+  ::SelectObject(source, oldSource);
+  ::SelectObject(target, oldTarget);
+  ::DeleteDC(source);
+  ::DeleteDC(target);
+  return toolkit::Picture::Adopt(toolkit::Picture::Kind::Bitmap, copy);
+}
+
 TEST_F(ControlsTest, TheMaskColourOfAnImageListIsTransparent) {
   // A blue square inside a frame of the mask colour, drawn over green.
   form_.images->SetMaskColor(kMask);
-  toolkit::Picture picture = SolidPicture(32, 32, kMask);
+  toolkit::Picture masked = SolidPicture(32, 32, kMask);
   HDC memory = ::CreateCompatibleDC(nullptr);
-  HGDIOBJ old = ::SelectObject(memory, picture.Handle());
-  RECT inner{8, 8, 24, 24};
-  ::SetDCBrushColor(memory, RGB(0, 0, 255));
-  ::FillRect(memory, &inner, static_cast<HBRUSH>(::GetStockObject(DC_BRUSH)));
+  HGDIOBJ old = ::SelectObject(memory, masked.Handle());
+  RECT upper{8, 4, 24, 12};
+  HBRUSH blue = ::CreateSolidBrush(RGB(0, 0, 255));
+  ::FillRect(memory, &upper, blue);
   ::SelectObject(memory, old);
-  form_.images->Add("c0", picture);
+  ::DeleteObject(blue);
 
-  toolkit::Picture target = SolidPicture(32, 32, RGB(0, 200, 0));
-  old = ::SelectObject(memory, target.Handle());
-  ::ImageList_Draw(form_.images->Handle(), 0, memory, 0, 0, ILD_TRANSPARENT);
-  ::SelectObject(memory, old);
+  const toolkit::Picture kinds[] = {masked, DibCopy(masked, -32), DibCopy(masked, 32)};
+  for (int kind = 0; kind < 3; ++kind) {
+    form_.images->Add("c" + std::to_string(kind), kinds[kind]);
+    toolkit::Picture target = SolidPicture(32, 32, RGB(0, 200, 0));
+    old = ::SelectObject(memory, target.Handle());
+    ::ImageList_Draw(form_.images->Handle(), kind, memory, 0, 0, ILD_TRANSPARENT);
+    ::SelectObject(memory, old);
+    EXPECT_EQ(testing_support::PicturePixel(target, 2, 2), RGB(0, 200, 0)) << "kind " << kind;
+    EXPECT_EQ(testing_support::PicturePixel(target, 16, 24), RGB(0, 200, 0)) << "kind " << kind;
+    EXPECT_EQ(testing_support::PicturePixel(target, 16, 8), RGB(0, 0, 255)) << "kind " << kind;
+  }
   ::DeleteDC(memory);
-  EXPECT_EQ(testing_support::PicturePixel(target, 2, 2), RGB(0, 200, 0));
-  EXPECT_EQ(testing_support::PicturePixel(target, 16, 16), RGB(0, 0, 255));
 }
 
 TEST_F(ControlsTest, ToolTipsAreSetAndReplaced) {

@@ -22,10 +22,10 @@ class PictureBoxTest : public ::testing::Test {
   PictureBoxTest() : box_("picTest", host_.Hwnd(), RECT{5, 5, 37, 37}, 101) {
     box_.SetBackColor(kBack);
   }
-  // A red 4 x 4 square in the top left corner of the box's drawing surface.
-  void MarkCorner() {
+  // A 4 x 4 square in the top left corner of the box's drawing surface.
+  void MarkCorner(COLORREF colour = kRed) {
     RECT corner{0, 0, 4, 4};
-    ::SetDCBrushColor(box_.hDC(), kRed);
+    ::SetDCBrushColor(box_.hDC(), colour);
     ::FillRect(box_.hDC(), &corner, static_cast<HBRUSH>(::GetStockObject(DC_BRUSH)));
   }
   COLORREF OnScreen(int x, int y) {
@@ -59,6 +59,26 @@ TEST_F(PictureBoxTest, OnlyPersistentDrawingGoesIntoTheImageAndItReachesTheScree
   box_.Refresh();
   EXPECT_EQ(OnScreen(1, 1), kRed);
   EXPECT_EQ(PicturePixel(box_.GetPicture(), 1, 1), kRed);
+}
+
+TEST_F(PictureBoxTest, TheScreenKeepsUpWithChangesMadeWhileHiddenOrBeforeAPaint) {
+  box_.SetAutoRedraw(true);
+  box_.SetVisible(false);
+  MarkCorner();
+  box_.Refresh();
+  box_.SetVisible(true);
+  EXPECT_EQ(OnScreen(1, 1), kRed) << "drawn while hidden";
+
+  box_.SetPicture(SolidPicture(8, 8, kGreen));
+  box_.SetPicture({});
+  EXPECT_EQ(OnScreen(1, 1), kBack) << "two changes before one paint";
+
+  // Refresh shows the drawing at once, with no message pump in between.
+  MarkCorner(kGreen);
+  box_.Refresh();
+  HDC screen = ::GetDC(box_.Hwnd());
+  EXPECT_EQ(::GetPixel(screen, 1, 1), kGreen);
+  ::ReleaseDC(box_.Hwnd(), screen);
 }
 
 TEST_F(PictureBoxTest, ANewPictureErasesTheDrawingAndReleasesTheOldPicture) {
