@@ -5,6 +5,7 @@
 
 #include "support/Pixels.h"
 #include "toolkit/Form.h"
+#include "toolkit/MessageLoop.h"
 
 namespace {
 
