@@ -14,9 +14,18 @@
 namespace hostile {
 namespace {
 
-// An unhandled exception ends a process at once with its code, here and in
-// the programs started from here, instead of waiting on Wine's debugger.
-const UINT kQuietFaults = ::SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX);
+// The case running in this process, named when it dies of an exception.
+std::string g_runningCase = "(between cases)";
+
+// Left to the system, a fault here would start Wine's debugger, which keeps
+// the test program waiting until the test runner's own limit.
+LONG WINAPI ReportFault(EXCEPTION_POINTERS* fault) {
+  std::fprintf(stderr, "CRASHED: %s (exception 0x%08lx)\n", g_runningCase.c_str(),
+               static_cast<unsigned long>(fault->ExceptionRecord->ExceptionCode));
+  std::fflush(stderr);
+  std::_Exit(EXIT_FAILURE);
+}
+const LPTOP_LEVEL_EXCEPTION_FILTER kPreviousFilter = ::SetUnhandledExceptionFilter(ReportFault);
 
 std::uint32_t Read32(const std::string& bytes, std::size_t at) {
   std::uint32_t value = 0;
@@ -114,6 +123,7 @@ std::string Differences(const Snapshot& before, const Snapshot& after) {
 
 void WithinLimit(const std::string& name, std::chrono::milliseconds limit,
                  const std::function<void()>& body) {
+  g_runningCase = name;
   std::packaged_task<void()> task(body);
   auto done = task.get_future();
   std::thread worker(std::move(task));
@@ -124,6 +134,7 @@ void WithinLimit(const std::string& name, std::chrono::milliseconds limit,
     std::_Exit(EXIT_FAILURE);
   }
   worker.join();
+  g_runningCase = "(between cases)";
   done.get();
 }
 
