@@ -21,7 +21,8 @@ std::string Differences(const Snapshot& before, const Snapshot& after);
 
 // Runs `body` on a worker thread. Past `limit` the case counts as hung: the
 // name is reported and the whole test program ends with a failure, since a
-// hung routine cannot be stopped from outside.
+// hung routine cannot be stopped from outside. A fault inside `body` ends
+// the program the same way, naming the case.
 void WithinLimit(const std::string& name, std::chrono::milliseconds limit,
                  const std::function<void()>& body);
 

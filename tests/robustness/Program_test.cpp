@@ -61,15 +61,15 @@ bool WaitUntil(Condition condition, std::chrono::milliseconds limit = kRunLimit)
 // leave changed.
 class Scene {
  public:
-  Scene() : target(place_.MakeFolder("target")) {
-    WriteWholeFile(place_ / "target\\photo.jpg", Garbage(5000));
-    WriteWholeFile(place_ / "beside.txt", "a neighbour's file");
+  Scene() : target(place.MakeFolder("target")) {
+    WriteWholeFile(place / "target\\photo.jpg", Garbage(5000));
+    WriteWholeFile(place / "beside.txt", "a neighbour's file");
   }
   std::string File(const std::string& name) const { return program.File(name); }
   Snapshot Files() const {
     Snapshot files = TakeSnapshot(program.Folder());
     files.erase("Morvane.ttf");
-    for (auto& [path, bytes] : TakeSnapshot(place_.Path())) files["place\\" + path] = bytes;
+    for (auto& [path, bytes] : TakeSnapshot(place.Path())) files["place\\" + path] = bytes;
     return files;
   }
 
@@ -103,7 +103,7 @@ class Scene {
     return WaitUntil([&] { return child->WaitForExit(0ms); }) && child->ExitCode() == 0;
   }
 
-  testing_support::ScratchFolder place_;  // first: the target lies in it
+  testing_support::ScratchFolder place;  // first: the target lies in it
   testing_support::ProgramCopy program;
   std::string target;
   std::unique_ptr<ChildProcess> child;
