@@ -4,6 +4,7 @@
 
 #include <limits>
 
+#include "icons/IconFileShape.h"
 #include "toolkit/ScopedHandle.h"
 
 namespace icons {
@@ -23,6 +24,7 @@ bool ExtractedNothing(UINT answer) {
 }  // namespace
 
 std::int32_t GetIconCount(const std::string& file) {
+  if (!IconSourceIsIntact(file)) return 0;
   HICON large = nullptr;
   HICON small = nullptr;
   UINT count = ::ExtractIconExA(file.c_str(), kCountOnly, &large, &small, kOneIcon);
@@ -31,6 +33,7 @@ std::int32_t GetIconCount(const std::string& file) {
 }
 
 HICON ExtractLargeIcon(const std::string& file, std::int32_t index) {
+  if (!IconSourceIsIntact(file)) return nullptr;
   HICON large = nullptr;
   HICON small = nullptr;
   UINT answer = ::ExtractIconExA(file.c_str(), index, &large, &small, kOneIcon);
