@@ -61,6 +61,8 @@ void FrmPrincipal::ListIcons(int count) {
 }
 
 void FrmPrincipal::CargarIconosdeArchivo() {
+  // Without its window (none could be made) there is no list to fill.
+  if (!Loaded()) return;
   frame::CWaitCursor wait;
   wait.SetCursor(toolkit::kPointerHourglass);
 
