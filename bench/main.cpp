@@ -176,10 +176,12 @@ void PrintLoadTable(const std::vector<LoadRow>& rows, int runs, int failedLoads)
   if (failedLoads) std::printf("%d loads did not list every icon.\n", failedLoads);
 }
 
-void PrintStepTable(const LoadRow& row, const bench::StepCosts& steps) {
+void PrintStepTable(const LoadRow& row, const bench::StepCosts& steps, int runs) {
   const double load = bench::Median(row.load);
-  std::printf("\n### Where a load of %d icons goes (each step run alone, %d times)\n\n", row.icons,
-              row.icons);
+  std::printf(
+      "\n### Where a load of %d icons goes (each step run alone %d times; median of %d "
+      "runs)\n\n",
+      row.icons, row.icons, runs);
   std::printf("| Step | ms | per icon (us) | of the load |\n|---|---|---|---|\n");
   auto stepRow = [&](const char* name, double ms) {
     std::printf("| %s | %s | %s | %s%% |\n", name, Fixed(ms).c_str(),
@@ -278,11 +280,24 @@ int main(int argc, char** argv) {
 
   Progress("cost of each step of a load");
   const LoadRow& stepsRow = rows[kStepsLibrary];
-  const bench::StepCosts steps =
-      bench::TimeLoadSteps(window, libraries + stepsRow.library, stepsRow.icons);
+  std::vector<bench::StepCosts> stepRuns;
+  for (int run = 1; run <= runs; ++run) {
+    stepRuns.push_back(bench::TimeLoadSteps(window, libraries + stepsRow.library, stepsRow.icons));
+  }
+  auto medianOf = [&stepRuns](double bench::StepCosts::*step) {
+    std::vector<double> samples;
+    for (const bench::StepCosts& costs : stepRuns) samples.push_back(costs.*step);
+    return bench::Median(samples);
+  };
+  bench::StepCosts steps;
+  for (double bench::StepCosts::*step :
+       {&bench::StepCosts::progressMs, &bench::StepCosts::iconImageMs,
+        &bench::StepCosts::imageListMs, &bench::StepCosts::itemsMs}) {
+    steps.*step = medianOf(step);
+  }
 
   PrintLoadTable(rows, runs, failedLoads);
-  PrintStepTable(stepsRow, steps);
+  PrintStepTable(stepsRow, steps, runs);
   PrintStartupTable(startup, shippedIcons, firstShippedLoad, bench::Median(shippedLoads), runs);
   std::fflush(stdout);
 

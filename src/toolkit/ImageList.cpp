@@ -9,6 +9,7 @@ namespace toolkit {
 namespace {
 constexpr int kInitialImages = 16;
 constexpr int kGrowBy = 256;
+constexpr UINT kListKind = ILC_COLOR32 | ILC_MASK;
 constexpr WORD kTrueColourBits = 32;
 constexpr DWORD kRgbBits = 0x00ffffff;
 constexpr int kBitsPerByte = 8;
@@ -63,7 +64,10 @@ std::optional<int> AddMaskedTrueColour(HIMAGELIST list, HBITMAP bitmap, COLORREF
 
 ImageList::ImageList(std::string name, int width, int height)
     : Element(std::move(name), "ImageList", FontSupport::kNoFont),
-      list_(::ImageList_Create(width, height, ILC_COLOR32 | ILC_MASK, kInitialImages, kGrowBy)) {}
+      list_(::ImageList_Create(width, height, kListKind, kInitialImages, kGrowBy)),
+      width_(width),
+      height_(height),
+      room_(kInitialImages) {}
 
 ImageList::~ImageList() {
   if (list_) ::ImageList_Destroy(list_);
@@ -86,6 +90,15 @@ int ImageList::Add(const std::string& key, const Picture& picture) {
   if (added < 0) throw ElementError("The image list refused the picture");
   keys_[key] = added + 1;
   return added + 1;
+}
+
+void ImageList::Reserve(int images) {
+  if (images <= room_ || Count() != 0) return;
+  HIMAGELIST roomier = ::ImageList_Create(width_, height_, kListKind, images, kGrowBy);
+  if (!roomier) return;
+  if (list_) ::ImageList_Destroy(list_);
+  list_ = roomier;
+  room_ = images;
 }
 
 void ImageList::Clear() {

@@ -28,12 +28,20 @@ class ImageList : public Element {
   // the key is taken. Returns the image's position, from 1.
   int Add(const std::string& key, const Picture& picture);
   void Clear();
+  // Makes room for `images` images at once while the list is empty, so that
+  // adding them does not grow it step by step (each step copies every image
+  // held so far). A list that has the room is left as it is; otherwise the
+  // handle changes, so a list view showing it must be given it again.
+  void Reserve(int images);
   int Count() const;
   // Position of the image with `key`, from 1; 0 when there is none.
   int IndexOf(const std::string& key) const;
 
  private:
   HIMAGELIST list_;
+  int width_;
+  int height_;
+  int room_;  // images the list was created to hold
   COLORREF maskColor_ = CLR_NONE;
   std::map<std::string, int> keys_;
 };

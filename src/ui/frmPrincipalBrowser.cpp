@@ -86,6 +86,7 @@ void FrmPrincipal::CargarIconosdeArchivo() {
     return;
   }
 
+  img32_->Reserve(count);
   // The same bitmap every pass: loading it again for each icon cost as much
   // as a fifth of an extraction.
   const toolkit::Picture progressBackground = frame::PictureLibrary().LoadDllBitmap(IDB_SKIN);

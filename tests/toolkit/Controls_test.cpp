@@ -97,6 +97,7 @@ TEST_F(ControlsTest, ListViewRefusesItemsWithoutImagesOrWithTakenKeys) {
 
 TEST_F(ControlsTest, ItemsAddedInABatchAreShownAndScrollTogether) {
   constexpr int kItems = 60;  // many more than the list shows at once
+  form_.images->Reserve(kItems);
   FillList(kItems, 0);
   {
     toolkit::ListView::ItemBatch batch(*form_.list);
