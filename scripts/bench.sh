@@ -10,16 +10,7 @@ runs=${1:-5}
 
 build_morvane >/dev/null
 
-prepare_wine_prefix "$build_dir/wineprefix"
-cleanup() {
-  wineserver -k 2>/dev/null || true
-  stop_virtual_display
-}
-trap cleanup EXIT
-
-start_virtual_display
-start_wine_server
-unmanaged_windows N
+start_private_wine_session
 
 load_before=$(cut -d' ' -f1-3 /proc/loadavg)
 results="$build_dir/bench/results.md"

@@ -5,15 +5,7 @@ set -euo pipefail
 source "$(dirname "$0")/common.sh"
 
 build_morvane >/dev/null
-prepare_wine_prefix "$build_dir/wineprefix"
-start_virtual_display
-cleanup() {
-  wineserver -k 2>/dev/null || true
-  stop_virtual_display
-}
-trap cleanup EXIT
-start_wine_server
-unmanaged_windows N
+start_private_wine_session
 
 # A short path, so that the folder label shows it whole.
 sample="/tmp/Holiday Photos"
