@@ -10,7 +10,16 @@ runs=${1:-5}
 
 build_morvane >/dev/null
 
-start_private_wine_session
+prepare_wine_prefix "$build_dir/wineprefix"
+cleanup() {
+  wineserver -k 2>/dev/null || true
+  stop_virtual_display
+}
+trap cleanup EXIT
+
+start_virtual_display
+start_wine_server
+unmanaged_windows N
 
 load_before=$(cut -d' ' -f1-3 /proc/loadavg)
 results="$build_dir/bench/results.md"

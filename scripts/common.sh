@@ -83,19 +83,3 @@ stop_virtual_display() {
 wine_command_line() {
   MORVANE_COMMAND_LINE=$1 wine cmd.exe /v:on /c '!MORVANE_COMMAND_LINE!' </dev/null
 }
-
-# A Wine session of the build tree's own: its prefix, a private virtual
-# display and a persistent server (each Wine process then starts in
-# milliseconds), all stopped when the calling script exits.
-start_private_wine_session() {
-  prepare_wine_prefix "$build_dir/wineprefix"
-  trap stop_private_wine_session EXIT
-  start_virtual_display
-  start_wine_server
-  unmanaged_windows N
-}
-
-stop_private_wine_session() {
-  wineserver -k 2>/dev/null || true
-  stop_virtual_display
-}

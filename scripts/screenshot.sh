@@ -5,7 +5,15 @@ set -euo pipefail
 source "$(dirname "$0")/common.sh"
 
 build_morvane >/dev/null
-start_private_wine_session
+prepare_wine_prefix "$build_dir/wineprefix"
+start_virtual_display
+cleanup() {
+  wineserver -k 2>/dev/null || true
+  stop_virtual_display
+}
+trap cleanup EXIT
+start_wine_server
+unmanaged_windows N
 
 # A short path, so that the folder label shows it whole.
 sample="/tmp/Holiday Photos"
