@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "toolkit/ScopedHandle.h"
+#include "platform/ScopedHandle.h"
 #include "toolkit/Screen.h"
 
 namespace toolkit {
@@ -40,9 +40,9 @@ void Canvas::DrawLine(double x1, double y1, double x2, double y2, COLORREF colou
   if (!dc || perX <= 0 || perY <= 0) return;
   auto px = [perX](double x) { return static_cast<int>(std::floor(x / perX + 0.5)); };
   auto py = [perY](double y) { return static_cast<int>(std::floor(y / perY + 0.5)); };
-  ScopedHandle<NullInvalidTraits<HPEN, DeleteGdiObject>> pen(
+  platform::ScopedPen pen(
       ::CreatePen(PS_SOLID, DrawWidth(), colour));
-  ScopedSelect select(dc, pen.get());
+  platform::ScopedSelect select(dc, pen.get());
   POINT previous;
   ::MoveToEx(dc, px(x1), py(y1), &previous);
   ::LineTo(dc, px(x2), py(y2));

@@ -33,7 +33,6 @@ int ComboBox::ListIndex() const {
 
 void ComboBox::SetListIndex(int index) {
   ::SendMessageA(Hwnd(), CB_SETCURSEL, static_cast<WPARAM>(index), 0);
-  if (onClick) onClick();
 }
 
 std::string ComboBox::Text() const {

@@ -17,8 +17,8 @@ class ComboBox : public Control {
   void Clear();
   void AddItem(const std::string& text);
   int ListCount() const;
-  // The selected line from 0, -1 for none. Choosing a line from the program
-  // raises onClick, as the user's choice does.
+  // The selected line from 0, -1 for none. Only the user's choice raises
+  // onClick; selecting a line from the program does not.
   int ListIndex() const;
   void SetListIndex(int index);
   // The selected line's text, "" when none is selected.

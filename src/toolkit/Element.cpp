@@ -9,7 +9,7 @@ namespace {
 constexpr int kPointsPerInch = 72;
 
 int ScreenDpiY() {
-  WindowDC screen(nullptr);
+  platform::WindowDC screen(nullptr);
   return screen ? ::GetDeviceCaps(screen.get(), LOGPIXELSY) : USER_DEFAULT_SCREEN_DPI;
 }
 
@@ -34,10 +34,10 @@ bool SameFace(const std::string& a, const std::string& b) {
 std::string ResolvedFontFace(const std::string& face) {
   if (face.empty() || face.size() >= LF_FACESIZE) return {};
   LOGFONTA description = Describe(face, kDesignFontPoints, false);
-  ScopedFont font(::CreateFontIndirectA(&description));
-  WindowDC screen(nullptr);
+  platform::ScopedFont font(::CreateFontIndirectA(&description));
+  platform::WindowDC screen(nullptr);
   if (!font || !screen) return {};
-  ScopedSelect select(screen.get(), font.get());
+  platform::ScopedSelect select(screen.get(), font.get());
   char actual[LF_FACESIZE] = {};
   int length = ::GetTextFaceA(screen.get(), LF_FACESIZE, actual);
   return length > 0 ? std::string(actual) : std::string();
@@ -105,7 +105,7 @@ void Element::AttachWindow(HWND window) {
 
 void Element::RebuildFont() {
   LOGFONTA description = Describe(face_, points_, bold_);
-  ScopedFont replacement(::CreateFontIndirectA(&description));
+  platform::ScopedFont replacement(::CreateFontIndirectA(&description));
   if (!replacement) return;
   // The window lets go of the old font before it is deleted.
   if (window_) {

@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "toolkit/ScopedHandle.h"
+#include "platform/ScopedHandle.h"
 
 namespace toolkit {
 
@@ -71,7 +71,7 @@ class Element {
   std::string face_ = kDesignFontFace;
   double points_ = kDesignFontPoints;
   bool bold_ = false;
-  ScopedFont font_;
+  platform::ScopedFont font_;
   HWND window_ = nullptr;
   Canvas* parent_ = nullptr;
 };

@@ -41,7 +41,6 @@ Form::Form(std::string name, int clientWidthTwips, int clientHeightTwips)
 Form::~Form() {
   DestroyElements();
   DestroyOwnWindow();
-  UnregisterLoadedWindow(this);
 }
 
 using Screen::ToPixels;
@@ -54,7 +53,6 @@ void Form::Load() {
     return;
   }
   AttachWindow(Hwnd());
-  RegisterLoadedWindow(this);
   CreateElements();
   for (const Timer& timer : timers_) ::SetTimer(Hwnd(), timer.id, timer.interval, nullptr);
   OnLoad();
@@ -115,7 +113,6 @@ void Form::Unload(UnloadMode mode) {
   for (const Timer& timer : timers_) ::KillTimer(Hwnd(), timer.id);
   DestroyElements();
   DestroyOwnWindow();
-  UnregisterLoadedWindow(this);
   closing_ = false;
 }
 
@@ -312,7 +309,7 @@ LRESULT Form::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_ERASEBKGND: {
       RECT client;
       ::GetClientRect(Hwnd(), &client);
-      ScopedHandle<NullInvalidTraits<HBRUSH, DeleteGdiObject>> brush(
+      platform::ScopedBrush brush(
           ::CreateSolidBrush(backColor_));
       ::FillRect(reinterpret_cast<HDC>(wParam), &client, brush.get());
       return 1;

@@ -2,8 +2,7 @@
 // out: elements placed in twips, events as overridable handlers. The windows
 // are borderless (the program draws its own skin). A form is loaded (window
 // and elements created, hidden, OnLoad run), shown, and unloaded (close
-// request, OnUnload, window destroyed); it is in the program's collection of
-// loaded windows meanwhile.
+// request, OnUnload, window destroyed).
 #pragma once
 
 #include <windows.h>
@@ -20,7 +19,6 @@
 #include "toolkit/ImageList.h"
 #include "toolkit/Label.h"
 #include "toolkit/ListView.h"
-#include "toolkit/LoadedWindows.h"
 #include "toolkit/PictureBox.h"
 #include "toolkit/Screen.h"
 #include "toolkit/TextBox.h"
@@ -50,7 +48,6 @@ class Line : public Element {
 class Form : public Element,
              public Canvas,
              private WindowBase,
-             public LoadedWindow,
              public ElementOwner {
  public:
   Form(std::string name, int clientWidthTwips, int clientHeightTwips);
@@ -66,9 +63,10 @@ class Form : public Element,
   void ShowModal();
   void Hide();
   bool Visible() const;
-  void Unload() override { Unload(kUnloadFromCode); }
+  void Unload() { Unload(kUnloadFromCode); }
   void Unload(UnloadMode mode);
-  bool Closing() const override { return closing_; }
+  // True while the form's own close is in progress.
+  bool Closing() const { return closing_; }
 
   // Screen position and outer size, in twips.
   int Left() const;

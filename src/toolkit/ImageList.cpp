@@ -3,7 +3,7 @@
 #include <optional>
 #include <vector>
 
-#include "toolkit/ScopedHandle.h"
+#include "platform/ScopedHandle.h"
 
 namespace toolkit {
 namespace {
@@ -56,7 +56,7 @@ std::optional<int> AddMaskedTrueColour(HIMAGELIST list, HBITMAP bitmap, COLORREF
     }
   }
   if (anyMasked) ::SetBitmapBits(bitmap, bytes, pixels.data());
-  ScopedBitmap maskBitmap(::CreateBitmap(width, height, 1, 1, mask.data()));
+  platform::ScopedBitmap maskBitmap(::CreateBitmap(width, height, 1, 1, mask.data()));
   return maskBitmap ? ::ImageList_Add(list, bitmap, maskBitmap.get()) : -1;
 }
 
@@ -73,7 +73,7 @@ ImageList::~ImageList() {
   if (list_) ::ImageList_Destroy(list_);
 }
 
-int ImageList::Add(const std::string& key, const Picture& picture) {
+int ImageList::Add(const std::string& key, const platform::Picture& picture) {
   if (!picture.Handle()) throw ElementError("Invalid picture");
   if (keys_.count(key)) throw ElementError("Key is not unique in collection");
   int added = -1;

@@ -10,7 +10,7 @@
 #include <string>
 
 #include "toolkit/Element.h"
-#include "toolkit/Picture.h"
+#include "platform/Picture.h"
 
 namespace toolkit {
 
@@ -26,7 +26,7 @@ class ImageList : public Element {
 
   // Appends a copy of the picture; throws ElementError when there is none or
   // the key is taken. Returns the image's position, from 1.
-  int Add(const std::string& key, const Picture& picture);
+  int Add(const std::string& key, const platform::Picture& picture);
   void Clear();
   // Makes room for `images` images at once while the list is empty, so that
   // adding them does not grow it step by step (each step copies every image

@@ -27,7 +27,7 @@ std::size_t ImageBytes(int width, int height) {
 
 }  // namespace
 
-bool PictureSize(const Picture& picture, SIZE& size) {
+bool PictureSize(const platform::Picture& picture, SIZE& size) {
   HANDLE handle = picture.Handle();
   if (!handle) return false;
   if (picture.Type() == PICTYPE_ICON) {
@@ -48,7 +48,7 @@ bool PictureSize(const Picture& picture, SIZE& size) {
 
 namespace {
 
-void DrawPicture(HDC dc, const Picture& picture) {
+void DrawPicture(HDC dc, const platform::Picture& picture) {
   HANDLE handle = picture.Handle();
   if (!handle) return;
   if (picture.Type() == PICTYPE_ICON) {
@@ -57,8 +57,8 @@ void DrawPicture(HDC dc, const Picture& picture) {
   }
   BITMAP info{};
   if (!::GetObjectA(handle, sizeof info, &info)) return;
-  ScopedMemoryDC source(::CreateCompatibleDC(dc));
-  ScopedSelect select(source.get(), handle);
+  platform::ScopedMemoryDC source(::CreateCompatibleDC(dc));
+  platform::ScopedSelect select(source.get(), handle);
   ::BitBlt(dc, 0, 0, info.bmWidth, info.bmHeight, source.get(), 0, 0, SRCCOPY);
 }
 
@@ -115,7 +115,7 @@ void PictureBox::SetBackColor(COLORREF colour) {
 
 void PictureBox::PaintBackground(HDC dc) const {
   RECT all{0, 0, width_, height_};
-  ScopedHandle<NullInvalidTraits<HBRUSH, DeleteGdiObject>> brush(::CreateSolidBrush(backColor_));
+  platform::ScopedBrush brush(::CreateSolidBrush(backColor_));
   ::FillRect(dc, &all, brush.get());
   DrawPicture(dc, picture_);
 }
@@ -135,7 +135,7 @@ void PictureBox::RequestRepaint() const {
 }
 
 void PictureBox::MakeImage() {
-  ScopedBitmap fresh(
+  platform::ScopedBitmap fresh(
       CreateImageBitmap(width_ > 0 ? width_ : 1, height_ > 0 ? height_ : 1, &imageBits_));
   HGDIOBJ previous = ::SelectObject(imageDC_.get(), fresh.get());
   if (!imageDCOriginal_) imageDCOriginal_ = previous;
@@ -153,7 +153,7 @@ void PictureBox::Resize(int width, int height) {
   MakeImage();
 }
 
-void PictureBox::SetPicture(Picture picture) {
+void PictureBox::SetPicture(platform::Picture picture) {
   picture_ = std::move(picture);
   SIZE size{};
   if (autoSize_ && PictureSize(picture_, size)) {
@@ -165,7 +165,7 @@ void PictureBox::SetPicture(Picture picture) {
   Cls();
 }
 
-Picture PictureBox::Image() const {
+platform::Picture PictureBox::Image() const {
   void* bits = nullptr;
   HBITMAP copy = CreateImageBitmap(width_, height_, &bits);
   if (!copy) return {};
@@ -175,7 +175,7 @@ Picture PictureBox::Image() const {
     ::GdiFlush();
     std::memcpy(bits, imageBits_, ImageBytes(width_, height_));
   }
-  return Picture::Adopt(Picture::Kind::Bitmap, copy);
+  return platform::Picture::Adopt(platform::Picture::Kind::Bitmap, copy);
 }
 
 void PictureBox::Drawn() const {
@@ -228,6 +228,15 @@ LRESULT PictureBox::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       }
       return Default(message, wParam, lParam);
   }
+}
+
+bool DrawIconInPicture(HICON icon, PictureBox& surface, int x, int y) {
+  const bool wasPersistent = surface.AutoRedraw();
+  surface.SetAutoRedraw(true);
+  const bool drawn = ::DrawIcon(surface.hDC(), x, y, icon) != FALSE;
+  if (drawn) surface.Refresh();
+  surface.SetAutoRedraw(wasPersistent);
+  return drawn;
 }
 
 }  // namespace toolkit

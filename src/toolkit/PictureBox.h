@@ -13,14 +13,14 @@
 #include "toolkit/Canvas.h"
 #include "toolkit/Element.h"
 #include "toolkit/MouseEvents.h"
-#include "toolkit/Picture.h"
-#include "toolkit/ScopedHandle.h"
+#include "platform/Picture.h"
+#include "platform/ScopedHandle.h"
 #include "toolkit/WindowBase.h"
 
 namespace toolkit {
 
 // The size of a picture in pixels; false for no picture.
-bool PictureSize(const Picture& picture, SIZE& size);
+bool PictureSize(const platform::Picture& picture, SIZE& size);
 
 class PictureBox : public Element, public Canvas, private WindowBase {
  public:
@@ -52,11 +52,11 @@ class PictureBox : public Element, public Canvas, private WindowBase {
   // picture again.
   void Cls();
 
-  const Picture& GetPicture() const { return picture_; }
+  const platform::Picture& GetPicture() const { return picture_; }
   // A new picture erases everything drawn on the surface.
-  void SetPicture(Picture picture);
+  void SetPicture(platform::Picture picture);
   // A copy of the persistent image as a new bitmap picture.
-  Picture Image() const;
+  platform::Picture Image() const;
 
   COLORREF BackColor() const { return backColor_; }
   void SetBackColor(COLORREF colour);
@@ -97,14 +97,20 @@ class PictureBox : public Element, public Canvas, private WindowBase {
   int drawWidth_ = 1;
   COLORREF backColor_;
   COLORREF foreColor_;
-  Picture picture_;
-  ScopedMemoryDC imageDC_;
-  ScopedBitmap image_;
+  platform::Picture picture_;
+  platform::ScopedMemoryDC imageDC_;
+  platform::ScopedBitmap image_;
   void* imageBits_ = nullptr;  // the pixels of image_
   HGDIOBJ imageDCOriginal_ = nullptr;
   MouseHandlers* pressed_ = nullptr;
   // A repaint was asked for and the paint has not come yet.
   mutable bool repaintRequested_ = false;
 };
+
+// Draws `icon` at its own size with its top-left corner at (x, y), into the
+// surface's persistent image; transparent parts of the icon leave the
+// surface's pixels as they were. True when drawn. The surface's AutoRedraw
+// switch is the same afterwards, whatever happened.
+bool DrawIconInPicture(HICON icon, PictureBox& surface, int x, int y);
 
 }  // namespace toolkit

@@ -2,13 +2,13 @@
 
 #include <windows.h>
 
-#include "toolkit/ScopedHandle.h"
+#include "platform/ScopedHandle.h"
 
 namespace toolkit::Screen {
 namespace {
 
 int Dpi(int axis) {
-  WindowDC screen(nullptr);
+  platform::WindowDC screen(nullptr);
   int dpi = screen ? ::GetDeviceCaps(screen.get(), axis) : USER_DEFAULT_SCREEN_DPI;
   return dpi > 0 ? dpi : USER_DEFAULT_SCREEN_DPI;
 }

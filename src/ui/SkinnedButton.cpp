@@ -1,13 +1,11 @@
 #include "ui/SkinnedButton.h"
 
-#include "ui/modDrawBorder.h"
+#include "ui/Drawing.h"
 
 namespace ui {
 namespace {
 constexpr int kFrameThickness = 1;
 constexpr int kFrameDistance = 0;
-constexpr int kRaised = 0;
-constexpr int kSunken = 1;
 }  // namespace
 
 SkinnedButton::SkinnedButton(toolkit::PictureBox& face, Behaviour behaviour)
@@ -15,15 +13,15 @@ SkinnedButton::SkinnedButton(toolkit::PictureBox& face, Behaviour behaviour)
   face_.mouse.onMouseMove = [this](const toolkit::MouseEvent&) {
     if (hoverShown_) return;
     hoverShown_ = true;
-    DrawBorder(face_, kFrameThickness, kFrameDistance, kRaised, true);
+    DrawBevel(face_, kFrameThickness, kFrameDistance, Bevel::kRaised, true);
   };
   face_.mouse.onMouseDown = [this](const toolkit::MouseEvent&) {
-    DrawBorder(face_, kFrameThickness, kFrameDistance, kSunken, true);
+    DrawBevel(face_, kFrameThickness, kFrameDistance, Bevel::kSunken, true);
     if (behaviour_.onPress) behaviour_.onPress();
   };
   if (behaviour_.raiseOnRelease) {
     face_.mouse.onMouseUp = [this](const toolkit::MouseEvent&) {
-      DrawBorder(face_, kFrameThickness, kFrameDistance, kRaised, true);
+      DrawBevel(face_, kFrameThickness, kFrameDistance, Bevel::kRaised, true);
     };
   }
   face_.mouse.onClick = [this] {

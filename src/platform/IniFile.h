@@ -1,0 +1,18 @@
+// Profile-file access for every .ini file the program touches
+// (Config.ini, a folder's Desktop.ini, ARA.INI).
+#pragma once
+
+#include <string>
+
+namespace platform {
+
+// The value of `key` in `section` of `file`, or empty when the file, the
+// section or the key is missing. Values are cut to 29999 characters.
+std::string ReadIniValue(const std::string& section, const std::string& key,
+                         const std::string& file);
+
+// Creates file, section or key as needed; true when the system reports success.
+bool WriteIniValue(const std::string& section, const std::string& key, const std::string& value,
+                   const std::string& file);
+
+}  // namespace platform

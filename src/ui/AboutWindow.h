@@ -1,0 +1,64 @@
+// One window, two uses: the splash while the program starts, and the modal
+// about window afterwards, with the information text and the buttons that
+// lead to the maker's web pages.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "toolkit/Form.h"
+#include "ui/SkinnedButton.h"
+#include "ui/WindowContext.h"
+
+namespace ui {
+
+class AboutWindow : public toolkit::Form {
+ public:
+  explicit AboutWindow(const WindowContext& context);
+  ~AboutWindow() override;
+
+  // While set, the window loads as the splash: in front, its buttons hidden
+  // and disabled, the splash text shown.
+  void SetSplash(bool splash) { splash_ = splash; }
+  bool Splash() const { return splash_; }
+
+  // Opens the window modally. While the same window still stands as the
+  // splash (start-up lets messages run as it lists the icons), the request is
+  // ignored: the splash already shows the information and start-up closes it.
+  void Open();
+
+  // Repaints the button faces in their normal state.
+  void Tile();
+
+ protected:
+  DWORD ExtendedStyle() const override;
+  void CreateElements() override;
+  void OnLoad() override;
+  void OnUnload() override;
+  void OnPaint(HDC dc) override;
+  void OnClick() override;
+  void OnMouseMove(const toolkit::MouseEvent& event) override;
+
+ private:
+  void DisableButtons();
+  std::string InformationText() const;
+
+  const WindowContext& context_;
+  bool splash_ = false;
+
+  toolkit::TextBox* text_ = nullptr;
+  toolkit::PictureBox* updatesFace_ = nullptr;
+  toolkit::PictureBox* webPageFace_ = nullptr;
+  toolkit::PictureBox* helpFace_ = nullptr;
+  toolkit::PictureBox* okFace_ = nullptr;
+  toolkit::PictureBox* settingsFace_ = nullptr;
+  toolkit::PictureBox* skin_ = nullptr;
+  toolkit::PictureBox* logo_ = nullptr;
+  toolkit::Label* splashText_ = nullptr;
+  std::unique_ptr<SkinnedButton> updatesButton_, webPageButton_, helpButton_, okButton_,
+      settingsButton_;
+  // Captions fetched at set-up.
+  std::string updatesCaption_, helpCaption_, webPageCaption_, okCaption_, settingsCaption_;
+};
+
+}  // namespace ui

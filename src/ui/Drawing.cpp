@@ -1,0 +1,164 @@
+#include "ui/Drawing.h"
+
+#include <cmath>
+
+#include "platform/ScopedHandle.h"
+#include "toolkit/Screen.h"
+
+namespace ui {
+namespace {
+
+constexpr int kCaptionTop = 4;
+constexpr UINT kOneCentredLine = DT_CENTER | DT_SINGLELINE;
+// Device capability index and bit of a driver that copies with a transparent
+// colour itself, and the background mode that asks for it.
+constexpr int kCaps1 = 94;
+constexpr int kC1Transparent = 1;
+constexpr int kNewTransparent = 3;
+
+struct Edges {
+  double left, top, right, bottom;
+};
+
+}  // namespace
+
+void DrawBevel(toolkit::Element& control, int thickness, int distance, Bevel bevel,
+               bool onControl) {
+  toolkit::Canvas* parent = control.Parent();
+  if (!parent) return;
+  double px = 0, py = 0;
+  switch (parent->Scale()) {
+    case toolkit::ScaleMode::kPixels: px = py = 1; break;
+    case toolkit::ScaleMode::kTwips:
+      px = toolkit::Screen::TwipsPerPixelX();
+      py = toolkit::Screen::TwipsPerPixelY();
+      break;
+    default: return;
+  }
+  toolkit::Canvas* target = onControl ? dynamic_cast<toolkit::Canvas*>(&control) : parent;
+  if (!target) return;
+
+  // The control's position and size in its parent's unit.
+  RECT pixels = control.Bounds();
+  double left = pixels.left * px, top = pixels.top * py;
+  double width = (pixels.right - pixels.left) * px, height = (pixels.bottom - pixels.top) * py;
+  Edges e = onControl ? Edges{0, 0, width - 1, height - 1}
+                      : Edges{left - px, top - py, left + width, top + height};
+
+  for (int i = distance; i < distance + thickness; ++i) {
+    double dx = i * px, dy = i * py;
+    double l = e.left - dx, t = e.top - dy, r = e.right + dx, b = e.bottom + dy;
+    if (bevel == Bevel::kSunken) {
+      target->DrawLine(l, t, r, t, kShadowColour);
+      target->DrawLine(l, t, l, b, kShadowColour);
+      target->DrawLine(l, b, r + px, b, kHighlightColour);
+      target->DrawLine(r, t, r, b, kHighlightColour);
+    } else {
+      target->DrawLine(r, b, r, t, kShadowColour);
+      target->DrawLine(r, b, l, b, kShadowColour);
+      target->DrawLine(r, t, l - px, t, kHighlightColour);
+      target->DrawLine(l, b, l, t, kHighlightColour);
+    }
+  }
+}
+
+void DrawEtchedLine(toolkit::Canvas& window, float& x1, float& y1, float& x2, float& y2) {
+  const int savedWidth = window.DrawWidth();
+  const toolkit::ScaleMode savedMode = window.Scale();
+  const int tppX = toolkit::Screen::TwipsPerPixelX();
+  const int tppY = toolkit::Screen::TwipsPerPixelY();
+  if (savedMode == toolkit::ScaleMode::kPixels) {
+    x1 = std::floor(x1 * tppX);
+    y1 = std::floor(y1 * tppY);
+    x2 = std::floor(x2 * tppX);
+    y2 = std::floor(y2 * tppY);
+  }
+  window.SetScaleMode(toolkit::ScaleMode::kTwips);
+  window.SetDrawWidth(1);
+  window.DrawLine(x1, y1, x2, y2, kShadowColour);
+  window.DrawLine(x1 + tppX, y1 + tppY, x2 + tppX, y2 + tppY, kHighlightColour);
+  window.SetDrawWidth(savedWidth);
+  window.SetScaleMode(savedMode);
+}
+
+void DrawCaption(toolkit::PictureBox& surface, const std::string& text, WindowText windowText) {
+  RECT area{0, kCaptionTop, surface.ScaleWidth(), surface.ScaleHeight()};
+  ::DrawTextA(surface.hDC(), text.c_str(), static_cast<int>(text.size()), &area, kOneCentredLine);
+  if (windowText == WindowText::kSet && surface.Hwnd()) {
+    ::SetWindowTextA(surface.Hwnd(), text.c_str());
+  }
+}
+
+void TileBitmap(HWND window, HBITMAP bitmap) {
+  RECT client{};
+  ::GetClientRect(window, &client);
+  platform::WindowDC windowDC(window);
+  platform::ScopedMemoryDC memory(::CreateCompatibleDC(windowDC.get()));
+  platform::ScopedSelect select(memory.get(), bitmap);
+  BITMAP info{};
+  ::GetObjectA(bitmap, sizeof info, &info);
+  const int w = info.bmWidth, h = info.bmHeight;
+  if (w <= 0 || h <= 0) return;
+  const int columns = client.right / w, rows = client.bottom / h;
+  for (int c = 0; c <= columns; ++c) {
+    for (int r = 0; r <= rows; ++r) {
+      ::BitBlt(windowDC.get(), c * w, r * h, w, h, memory.get(), 0, 0, SRCCOPY);
+    }
+  }
+}
+
+void TransparentBlit(HDC dst, int x, int y, int w, int h, HDC src, int sx, int sy,
+                     COLORREF transparent) {
+  if (::GetDeviceCaps(dst, kCaps1) & kC1Transparent) {
+    int oldMode = ::SetBkMode(dst, kNewTransparent);
+    COLORREF oldColour = ::SetBkColor(dst, transparent);
+    ::BitBlt(dst, x, y, w, h, src, sx, sy, SRCCOPY);
+    ::SetBkColor(dst, oldColour);
+    ::SetBkMode(dst, oldMode);
+    return;
+  }
+  TransparentBlitMasked(dst, x, y, w, h, src, sx, sy, transparent);
+}
+
+void TransparentBlitMasked(HDC dst, int x, int y, int w, int h, HDC src, int sx, int sy,
+                     COLORREF transparent) {
+  platform::ScopedMemoryDC sourceCopy(::CreateCompatibleDC(dst)), mask(::CreateCompatibleDC(dst)),
+      inverse(::CreateCompatibleDC(dst)), result(::CreateCompatibleDC(dst));
+  platform::ScopedBitmap maskBits(::CreateBitmap(w, h, 1, 1, nullptr));
+  platform::ScopedBitmap inverseBits(::CreateBitmap(w, h, 1, 1, nullptr));
+  platform::ScopedBitmap resultBits(::CreateCompatibleBitmap(dst, w, h));
+  platform::ScopedBitmap sourceBits(::CreateCompatibleBitmap(dst, w, h));
+  {
+    platform::ScopedSelect selectMask(mask.get(), maskBits.get());
+    platform::ScopedSelect selectInverse(inverse.get(), inverseBits.get());
+    platform::ScopedSelect selectResult(result.get(), resultBits.get());
+    platform::ScopedSelect selectSource(sourceCopy.get(), sourceBits.get());
+
+    // 1 where the source has the transparent colour.
+    COLORREF oldBack = ::SetBkColor(src, transparent);
+    ::BitBlt(mask.get(), 0, 0, w, h, src, sx, sy, SRCCOPY);
+    ::SetBkColor(src, oldBack);
+    ::BitBlt(inverse.get(), 0, 0, w, h, mask.get(), 0, 0, NOTSRCCOPY);
+
+    // Colour DCs read a monochrome source through their text and
+    // background colours: 0 -> text colour, 1 -> background colour.
+    COLORREF oldText = ::SetTextColor(result.get(), RGB(0, 0, 0));
+    oldBack = ::SetBkColor(result.get(), RGB(255, 255, 255));
+    ::BitBlt(result.get(), 0, 0, w, h, dst, x, y, SRCCOPY);
+    ::BitBlt(result.get(), 0, 0, w, h, mask.get(), 0, 0, SRCAND);
+    ::SetTextColor(result.get(), oldText);
+    ::SetBkColor(result.get(), oldBack);
+
+    oldText = ::SetTextColor(sourceCopy.get(), RGB(0, 0, 0));
+    oldBack = ::SetBkColor(sourceCopy.get(), RGB(255, 255, 255));
+    ::BitBlt(sourceCopy.get(), 0, 0, w, h, src, sx, sy, SRCCOPY);
+    ::BitBlt(sourceCopy.get(), 0, 0, w, h, inverse.get(), 0, 0, SRCAND);
+    ::SetTextColor(sourceCopy.get(), oldText);
+    ::SetBkColor(sourceCopy.get(), oldBack);
+
+    ::BitBlt(result.get(), 0, 0, w, h, sourceCopy.get(), 0, 0, SRCINVERT);
+    ::BitBlt(dst, x, y, w, h, result.get(), 0, 0, SRCCOPY);
+  }
+}
+
+}  // namespace ui

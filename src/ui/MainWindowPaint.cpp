@@ -1,0 +1,64 @@
+// How the main window looks: its painting and the normal-state repaint of
+// its buttons and status strip.
+#include "resource_ids.h"
+#include "ui/Drawing.h"
+#include "ui/MainWindow.h"
+#include "ui/WindowShape.h"
+
+namespace ui {
+namespace {
+
+constexpr COLORREF kLogoTransparent = RGB(255, 255, 0);
+constexpr int kLogoLeft = 50;
+constexpr int kLogoTop = 5;
+constexpr int kScratchSize = 32;
+constexpr float kEtchedLineTop = 42;
+constexpr float kEtchedLineLength = 300;
+
+}  // namespace
+
+void MainWindow::Tile() {
+  // Without its window (none could be made) there are no faces to paint.
+  if (browser_.Loading() || !Loaded()) return;
+  for (SkinnedButton* button : {browseButton_.get(), applyButton_.get(), exitButton_.get()}) {
+    button->ClearHover();
+    button->ResetFace(*skin_);
+  }
+  statusStrip_->SetPicture(skin_->GetPicture());
+
+  DrawCaption(*applyFace_, applyCaption_);
+  DrawCaption(*exitFace_, context_.Text(IDS_EXIT_BUTTON));
+  DrawCaption(*browseFace_, context_.Text(IDS_BROWSE_BUTTON));
+  DrawCaption(*statusStrip_, core::StatusText(iconList_->Count(), iconCountText_, fewIconsText_));
+}
+
+void MainWindow::OnPaint(HDC) {
+  platform::Picture skin = context_.pictures.Bitmap(IDB_SKIN);
+  TileBitmap(Hwnd(), static_cast<HBITMAP>(skin.Handle()));
+
+  float x1 = 0, y1 = kEtchedLineTop, x2 = kEtchedLineLength, y2 = kEtchedLineTop;
+  DrawEtchedLine(*this, x1, y1, x2, y2);
+
+  scratch_->SetAutoSize(true);
+  scratch_->SetPicture(context_.pictures.Bitmap(IDB_LOGO));
+  TransparentBlit(hDC(), kLogoLeft, kLogoTop, scratch_->ScaleWidth(), scratch_->ScaleHeight(),
+                  scratch_->hDC(), 0, 0, kLogoTransparent);
+  scratch_->SetAutoSize(false);
+  scratch_->Resize(kScratchSize, kScratchSize);
+
+  for (toolkit::Element* framed : std::initializer_list<toolkit::Element*>{
+           newIcon_, currentIcon_, defaultIcon_, infoTipBox_, recentBox_, iconList_}) {
+    DrawBevel(*framed, 1, 0, Bevel::kRaised, false);
+  }
+  DrawBevel(*statusStrip_, 1, 0, Bevel::kSunken, false);
+}
+
+void MainWindow::OnMouseDown(const toolkit::MouseEvent&) {
+  DragWindow(*this);
+}
+
+void MainWindow::OnMouseMove(const toolkit::MouseEvent&) {
+  Tile();
+}
+
+}  // namespace ui
