@@ -86,14 +86,14 @@ void Run::Start() {
   CheckColourDepth();
   if (settingsFileExisted_) core::ReadFolderSettings(targetFolder_, settings_);
 
-  context_.emplace(ui::WindowContext{language_, pictures_, programFolder_, targetFolder_,
-                                     startRect_});
+  context_.emplace(
+      ui::WindowContext{language_, pictures_, programFolder_, targetFolder_, startRect_});
   about_ = std::make_unique<ui::AboutWindow>(*context_);
-  main_ = std::make_unique<ui::MainWindow>(*context_, settings_, settingsFileExisted_, *about_,
-                                           [this] {
-                                             ReleaseLibraries();
-                                             End(false);
-                                           });
+  main_ =
+      std::make_unique<ui::MainWindow>(*context_, settings_, settingsFileExisted_, *about_, [this] {
+        ReleaseLibraries();
+        End(false);
+      });
 
   ui::AboutWindow& splash = *about_;
   splash.SetSplash(true);

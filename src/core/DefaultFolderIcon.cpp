@@ -16,7 +16,8 @@ constexpr char kLocationSeparator = ',';
 constexpr std::int32_t kIndexWithoutSeparator = 0;
 
 std::string TextAt(const RegistryPlace& place) {
-  return platform::RegistryText(platform::GetRegistryValue(place.hive, place.keyName, place.valueName));
+  return platform::RegistryText(
+      platform::GetRegistryValue(place.hive, place.keyName, place.valueName));
 }
 
 }  // namespace

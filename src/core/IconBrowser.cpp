@@ -17,8 +17,7 @@ std::string NormalIconPath(const std::string& typed) {
   return platform::LowerCase(platform::TrimBlanks(typed));
 }
 
-std::optional<std::string> IconPathToOpen(const std::string& typed,
-                                          const std::string& lastOpened) {
+std::optional<std::string> IconPathToOpen(const std::string& typed, const std::string& lastOpened) {
   std::string path = NormalIconPath(typed);
   if (path.empty() || path == lastOpened) return std::nullopt;
   return path;

@@ -44,8 +44,7 @@ std::string NormalIconPath(const std::string& typed);
 
 // NormalIconPath of `typed`; nothing when it is blank or names the file
 // opened last.
-std::optional<std::string> IconPathToOpen(const std::string& typed,
-                                          const std::string& lastOpened);
+std::optional<std::string> IconPathToOpen(const std::string& typed, const std::string& lastOpened);
 
 // "<loading> <position>/<count>", shown while icons are extracted.
 std::string ProgressText(const std::string& loading, int position, int count);

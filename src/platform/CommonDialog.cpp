@@ -263,8 +263,8 @@ void CommonDialog::ShowHelp() {
   action_ = kActionHelp;
   apiReturn_ = 0;
   extendedError_ = 0;
-  apiReturn_ =
-      ::WinHelpA(HandleFrom<HWND>(owner_), TextOrNone(helpFile_), static_cast<UINT>(helpCommand_), 0);
+  apiReturn_ = ::WinHelpA(HandleFrom<HWND>(owner_), TextOrNone(helpFile_),
+                          static_cast<UINT>(helpCommand_), 0);
   extendedError_ = static_cast<std::int32_t>(::CommDlgExtendedError());
 }
 

@@ -2,8 +2,8 @@
 
 #include <optional>
 
-#include "platform/TextRules.h"
 #include "platform/ScopedHandle.h"
+#include "platform/TextRules.h"
 
 namespace platform {
 namespace {

@@ -40,8 +40,7 @@ void Canvas::DrawLine(double x1, double y1, double x2, double y2, COLORREF colou
   if (!dc || perX <= 0 || perY <= 0) return;
   auto px = [perX](double x) { return static_cast<int>(std::floor(x / perX + 0.5)); };
   auto py = [perY](double y) { return static_cast<int>(std::floor(y / perY + 0.5)); };
-  platform::ScopedPen pen(
-      ::CreatePen(PS_SOLID, DrawWidth(), colour));
+  platform::ScopedPen pen(::CreatePen(PS_SOLID, DrawWidth(), colour));
   platform::ScopedSelect select(dc, pen.get());
   POINT previous;
   ::MoveToEx(dc, px(x1), py(y1), &previous);

@@ -14,13 +14,11 @@ bool Contains(const RECT& area, POINT point) {
   return ::PtInRect(&area, point) != FALSE;
 }
 
-void InitCommonControlsOnce() {
-  static const bool done = [] {
-    INITCOMMONCONTROLSEX classes{sizeof(INITCOMMONCONTROLSEX),
-                                 ICC_LISTVIEW_CLASSES | ICC_BAR_CLASSES | ICC_STANDARD_CLASSES};
-    return ::InitCommonControlsEx(&classes) != FALSE;
-  }();
-  (void)done;
+// Asking again is harmless: the classes are registered once per process.
+void RegisterCommonControlClasses() {
+  INITCOMMONCONTROLSEX classes{sizeof(INITCOMMONCONTROLSEX),
+                               ICC_LISTVIEW_CLASSES | ICC_BAR_CLASSES | ICC_STANDARD_CLASSES};
+  ::InitCommonControlsEx(&classes);
 }
 
 }  // namespace
@@ -29,7 +27,7 @@ Form::Form(std::string name, int clientWidthTwips, int clientHeightTwips)
     : Element(std::move(name), "Form"),
       widthTwips_(clientWidthTwips),
       heightTwips_(clientHeightTwips) {
-  InitCommonControlsOnce();
+  RegisterCommonControlClasses();
   RegisterWindowClass(kFormClass, {CS_DBLCLKS | CS_OWNDC, nullptr});
   formMouse_.onMouseDown = [this](const MouseEvent& e) { OnMouseDown(e); };
   formMouse_.onMouseMove = [this](const MouseEvent& e) { OnMouseMove(e); };
@@ -309,8 +307,7 @@ LRESULT Form::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_ERASEBKGND: {
       RECT client;
       ::GetClientRect(Hwnd(), &client);
-      platform::ScopedBrush brush(
-          ::CreateSolidBrush(backColor_));
+      platform::ScopedBrush brush(::CreateSolidBrush(backColor_));
       ::FillRect(reinterpret_cast<HDC>(wParam), &client, brush.get());
       return 1;
     }

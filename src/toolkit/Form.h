@@ -45,10 +45,7 @@ class Line : public Element {
   COLORREF colour_ = RGB(0, 0, 0);
 };
 
-class Form : public Element,
-             public Canvas,
-             private WindowBase,
-             public ElementOwner {
+class Form : public Element, public Canvas, private WindowBase, public ElementOwner {
  public:
   Form(std::string name, int clientWidthTwips, int clientHeightTwips);
   ~Form() override;

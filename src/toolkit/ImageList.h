@@ -9,8 +9,8 @@
 #include <map>
 #include <string>
 
-#include "toolkit/Element.h"
 #include "platform/Picture.h"
+#include "toolkit/Element.h"
 
 namespace toolkit {
 

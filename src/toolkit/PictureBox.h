@@ -10,11 +10,11 @@
 #include <functional>
 #include <string>
 
+#include "platform/Picture.h"
+#include "platform/ScopedHandle.h"
 #include "toolkit/Canvas.h"
 #include "toolkit/Element.h"
 #include "toolkit/MouseEvents.h"
-#include "platform/Picture.h"
-#include "platform/ScopedHandle.h"
 #include "toolkit/WindowBase.h"
 
 namespace toolkit {

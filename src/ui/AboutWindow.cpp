@@ -14,9 +14,7 @@ using toolkit::TwipsRect;
 constexpr int kClientWidth = 6630;
 constexpr int kClientHeight = 4845;
 constexpr COLORREF kBlue = RGB(0, 0, 255);
-constexpr COLORREF kLogoTransparent = RGB(255, 255, 0);
-constexpr int kLogoLeft = 5;
-constexpr int kLogoTop = 5;
+constexpr POINT kLogoAt{5, 5};
 constexpr float kEtchedLineTop = 50;
 constexpr double kSplashTextPoints = 16;
 constexpr TwipsRect kSplashTextPlace{4395, 1665, 2100, 4335};
@@ -48,7 +46,8 @@ void AboutWindow::CreateElements() {
   webPageFace_ = &AddPictureBox(names::kWebPageButton, {4410, 3060, 2100, 375}, ids::webPageButton);
   helpFace_ = &AddPictureBox(names::kHelpButton, {4410, 3750, 2100, 375}, ids::helpButton);
   okFace_ = &AddPictureBox(names::kOkButton, {4395, 4335, 2100, 420}, ids::okButton);
-  settingsFace_ = &AddPictureBox(names::kSettingsButton, {4410, 990, 2100, 375}, ids::settingsButton);
+  settingsFace_ =
+      &AddPictureBox(names::kSettingsButton, {4410, 990, 2100, 375}, ids::settingsButton);
   skin_ = &AddPictureBox(names::kAboutSkin, {4365, 4410, 2865, 750}, ids::aboutSkin);
   logo_ = &AddPictureBox(names::kLogo, {4995, 3690, 480, 480}, ids::logo);
   splashText_ = &AddLabel(names::kSplashText, -1, {45, 135, 645, 510});
@@ -65,8 +64,7 @@ void AboutWindow::CreateElements() {
 
   auto web = [this](platform::WebPage page) {
     return [this, page] {
-      platform::OpenWebPage(page, context_.Text(IDS_LANGUAGE_CODE), Hwnd(),
-                            context_.programFolder);
+      platform::OpenWebPage(page, context_.Text(IDS_LANGUAGE_CODE), Hwnd(), context_.programFolder);
     };
   };
   using Behaviour = SkinnedButton::Behaviour;
@@ -74,12 +72,12 @@ void AboutWindow::CreateElements() {
       *updatesFace_, Behaviour{true, web(platform::kUpdates), nullptr});
   webPageButton_ = std::make_unique<SkinnedButton>(
       *webPageFace_, Behaviour{true, web(platform::kWebPage), nullptr});
-  helpButton_ = std::make_unique<SkinnedButton>(
-      *helpFace_, Behaviour{true, web(platform::kHelpPage), nullptr});
-  okButton_ = std::make_unique<SkinnedButton>(*okFace_,
-                                              Behaviour{true, nullptr, [this] { Unload(); }});
-  settingsButton_ = std::make_unique<SkinnedButton>(*settingsFace_,
-                                                    Behaviour{true, nullptr, nullptr});
+  helpButton_ = std::make_unique<SkinnedButton>(*helpFace_,
+                                                Behaviour{true, web(platform::kHelpPage), nullptr});
+  okButton_ =
+      std::make_unique<SkinnedButton>(*okFace_, Behaviour{true, nullptr, [this] { Unload(); }});
+  settingsButton_ =
+      std::make_unique<SkinnedButton>(*settingsFace_, Behaviour{true, nullptr, nullptr});
   splashText_->mouse.onClick = [this] { Unload(); };
 }
 
@@ -112,10 +110,24 @@ void AboutWindow::OnLoad() {
 
 std::string AboutWindow::InformationText() const {
   std::string text = context_.Text(IDS_PRODUCT_NAME) + " ";
-  const int pieces[] = {IDS_ABOUT_VERSION, kBreak, kBreak, IDS_ABOUT_SUMMARY, kBreak,
-                        IDS_COPYRIGHT,     kBreak, IDS_ABOUT_RIGHTS, kBreak,
-                        IDS_ABOUT_WEB_ADDRESS, kBreak, kBreak, IDS_ABOUT_THANKS, kBreak,
-                        IDS_ABOUT_CREDITS, kBreak, IDS_ABOUT_CONTACT, kBreak};
+  const int pieces[] = {IDS_ABOUT_VERSION,
+                        kBreak,
+                        kBreak,
+                        IDS_ABOUT_SUMMARY,
+                        kBreak,
+                        IDS_COPYRIGHT,
+                        kBreak,
+                        IDS_ABOUT_RIGHTS,
+                        kBreak,
+                        IDS_ABOUT_WEB_ADDRESS,
+                        kBreak,
+                        kBreak,
+                        IDS_ABOUT_THANKS,
+                        kBreak,
+                        IDS_ABOUT_CREDITS,
+                        kBreak,
+                        IDS_ABOUT_CONTACT,
+                        kBreak};
   for (int piece : pieces) text += piece == kBreak ? std::string(kLineBreak) : context_.Text(piece);
   return text;
 }
@@ -129,9 +141,9 @@ void AboutWindow::DisableButtons() {
 }
 
 void AboutWindow::Tile() {
-  const std::initializer_list<SkinnedButton*> buttons = {
-      helpButton_.get(), updatesButton_.get(), webPageButton_.get(), okButton_.get(),
-      settingsButton_.get()};
+  const std::initializer_list<SkinnedButton*> buttons = {helpButton_.get(), updatesButton_.get(),
+                                                         webPageButton_.get(), okButton_.get(),
+                                                         settingsButton_.get()};
   for (SkinnedButton* button : buttons) button->ClearHover();
   for (SkinnedButton* button : buttons) button->ResetFace(*skin_);
   DrawCaption(*updatesFace_, updatesCaption_);
@@ -142,16 +154,9 @@ void AboutWindow::Tile() {
 }
 
 void AboutWindow::OnPaint(HDC) {
-  platform::Picture skin = context_.pictures.Bitmap(IDB_SKIN);
-  TileBitmap(Hwnd(), static_cast<HBITMAP>(skin.Handle()));
-  float x1 = 0, y1 = kEtchedLineTop, y2 = kEtchedLineTop;
-  float x2 = static_cast<float>(toolkit::Screen::TwipsToPixelsX(Width()));
-  DrawEtchedLine(*this, x1, y1, x2, y2);
-  logo_->SetAutoSize(true);
-  logo_->SetPicture(context_.pictures.Bitmap(IDB_LOGO));
-  TransparentBlit(hDC(), kLogoLeft, kLogoTop, logo_->ScaleWidth(), logo_->ScaleHeight(),
-                  logo_->hDC(), 0, 0, kLogoTransparent);
-  logo_->SetAutoSize(false);
+  const float lineLength = static_cast<float>(toolkit::Screen::TwipsToPixelsX(Width()));
+  PaintSkin(*this, context_.pictures.Bitmap(IDB_SKIN), context_.pictures.Bitmap(IDB_LOGO), *logo_,
+            kEtchedLineTop, lineLength, kLogoAt);
 }
 
 void AboutWindow::OnClick() {

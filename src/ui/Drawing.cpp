@@ -15,6 +15,7 @@ constexpr UINT kOneCentredLine = DT_CENTER | DT_SINGLELINE;
 constexpr int kCaps1 = 94;
 constexpr int kC1Transparent = 1;
 constexpr int kNewTransparent = 3;
+constexpr COLORREF kLogoTransparent = RGB(255, 255, 0);
 
 struct Edges {
   double left, top, right, bottom;
@@ -121,7 +122,7 @@ void TransparentBlit(HDC dst, int x, int y, int w, int h, HDC src, int sx, int s
 }
 
 void TransparentBlitMasked(HDC dst, int x, int y, int w, int h, HDC src, int sx, int sy,
-                     COLORREF transparent) {
+                           COLORREF transparent) {
   platform::ScopedMemoryDC sourceCopy(::CreateCompatibleDC(dst)), mask(::CreateCompatibleDC(dst)),
       inverse(::CreateCompatibleDC(dst)), result(::CreateCompatibleDC(dst));
   platform::ScopedBitmap maskBits(::CreateBitmap(w, h, 1, 1, nullptr));
@@ -159,6 +160,18 @@ void TransparentBlitMasked(HDC dst, int x, int y, int w, int h, HDC src, int sx,
     ::BitBlt(result.get(), 0, 0, w, h, sourceCopy.get(), 0, 0, SRCINVERT);
     ::BitBlt(dst, x, y, w, h, result.get(), 0, 0, SRCCOPY);
   }
+}
+
+void PaintSkin(toolkit::Form& window, const platform::Picture& skin, const platform::Picture& logo,
+               toolkit::PictureBox& logoSurface, float lineTop, float lineLength, POINT logoAt) {
+  TileBitmap(window.Hwnd(), static_cast<HBITMAP>(skin.Handle()));
+  float x1 = 0, y1 = lineTop, x2 = lineLength, y2 = lineTop;
+  DrawEtchedLine(window, x1, y1, x2, y2);
+  logoSurface.SetAutoSize(true);
+  logoSurface.SetPicture(logo);
+  TransparentBlit(window.hDC(), logoAt.x, logoAt.y, logoSurface.ScaleWidth(),
+                  logoSurface.ScaleHeight(), logoSurface.hDC(), 0, 0, kLogoTransparent);
+  logoSurface.SetAutoSize(false);
 }
 
 }  // namespace ui

@@ -9,6 +9,7 @@
 
 #include "toolkit/Canvas.h"
 #include "toolkit/Element.h"
+#include "toolkit/Form.h"
 #include "toolkit/PictureBox.h"
 
 namespace ui {
@@ -22,8 +23,7 @@ enum class Bevel { kRaised, kSunken };
 // control's edge. With `onControl` the frame is drawn inside the control's
 // own surface, else on its parent around it. Draws nothing where the parent
 // measures in neither pixels nor twips.
-void DrawBevel(toolkit::Element& control, int thickness, int distance, Bevel bevel,
-               bool onControl);
+void DrawBevel(toolkit::Element& control, int thickness, int distance, Bevel bevel, bool onControl);
 
 // An etched line: grey, with a white line one pixel right and below. The
 // window draws it in twips; coordinates given in pixels are converted, and
@@ -54,5 +54,12 @@ void TransparentBlit(HDC dst, int x, int y, int w, int h, HDC src, int sx, int s
 // The same copy built from monochrome masks, for devices without it.
 void TransparentBlitMasked(HDC dst, int x, int y, int w, int h, HDC src, int sx, int sy,
                            COLORREF transparent);
+
+// The background both skinned windows share: the skin tiled over the client
+// area, an etched line from the left edge at `lineTop`, `lineLength` pixels
+// long, and the logo at `logoAt` with its yellow transparent. The logo goes
+// through `logoSurface`, which takes its size meanwhile.
+void PaintSkin(toolkit::Form& window, const platform::Picture& skin, const platform::Picture& logo,
+               toolkit::PictureBox& logoSurface, float lineTop, float lineLength, POINT logoAt);
 
 }  // namespace ui

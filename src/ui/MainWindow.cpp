@@ -47,8 +47,7 @@ TwipsRect DesignPosition(const toolkit::Element& element) {
 }  // namespace
 
 MainWindow::MainWindow(const WindowContext& context, core::FolderSettings& settings,
-                       bool settingsFileExisted, AboutWindow& about,
-                       std::function<void()> onClosed)
+                       bool settingsFileExisted, AboutWindow& about, std::function<void()> onClosed)
     : Form(names::kMainWindow, kClientWidth, kClientHeight),
       context_(context),
       settings_(settings),
@@ -77,8 +76,7 @@ void MainWindow::CreateElements() {
   CreateLabelPair(names::kNewIconLabel, {720, 1350, 3110, 480});
   newIcon_ = &AddPictureBox(names::kNewIcon, {135, 1350, 480, 480}, ids::newIcon);
   CreateLabelPair(names::kDefaultIconLabel, {720, 1935, 3110, 480});
-  defaultIcon_ =
-      &AddPictureBox(names::kDefaultIcon, {135, 1935, 480, 480}, ids::defaultFolderIcon);
+  defaultIcon_ = &AddPictureBox(names::kDefaultIcon, {135, 1935, 480, 480}, ids::defaultFolderIcon);
   CreateLabelPair(names::kInfoTipLabel, {120, 2610, 3660, 240});
   infoTipBox_ = &AddTextBox(names::kInfoTip, {120, 2925, 3705, 1995}, ids::infoTip,
                             TextBox::Lines::kMultiple);
@@ -111,8 +109,8 @@ void MainWindow::CreateElements() {
 
   // Events.
   using Behaviour = SkinnedButton::Behaviour;
-  browseButton_ =
-      std::make_unique<SkinnedButton>(*browseFace_, Behaviour{false, nullptr, [this] { Browse(); }});
+  browseButton_ = std::make_unique<SkinnedButton>(*browseFace_,
+                                                  Behaviour{false, nullptr, [this] { Browse(); }});
   applyButton_ =
       std::make_unique<SkinnedButton>(*applyFace_, Behaviour{false, nullptr, [this] { Apply(); }});
   exitButton_ =

@@ -27,8 +27,8 @@ class MainWindow : public toolkit::Form {
   // its Desktop.ini was there when the program started. `onClosed` runs at
   // the end of the window's close sequence, which never returns to the
   // window: it ends the program.
-  MainWindow(const WindowContext& context, core::FolderSettings& settings,
-             bool settingsFileExisted, AboutWindow& about, std::function<void()> onClosed);
+  MainWindow(const WindowContext& context, core::FolderSettings& settings, bool settingsFileExisted,
+             AboutWindow& about, std::function<void()> onClosed);
   ~MainWindow() override;
 
   ShadowWindow& Shadow() { return shadow_; }

@@ -72,7 +72,8 @@ void MainWindow::LoadIcons() {
   const platform::IconFile file(browser_.CurrentFile());
   const std::int32_t count = file.Count();
   if (count < 1) {
-    platform::Picture shellIcon = platform::ShellIconPicture(file.Path(), platform::kLargeShellIcon);
+    platform::Picture shellIcon =
+        platform::ShellIconPicture(file.Path(), platform::kLargeShellIcon);
     toolkit::TryProperty([&] { iconImages_->Add("c0", shellIcon); });
     iconList_->SetIcons(iconImages_);
     toolkit::TryProperty([&] { iconList_->AddItem("a1", "", 1); });
@@ -109,8 +110,7 @@ void MainWindow::LoadIcons() {
 void MainWindow::SelectIcon(std::optional<int> item) {
   // Without an item every step that needs one fails and is stepped over:
   // no icon is drawn and the position keeps its value.
-  HICON icon =
-      item ? platform::IconFile(browser_.CurrentFile()).ExtractLarge(*item - 1) : nullptr;
+  HICON icon = item ? platform::IconFile(browser_.CurrentFile()).ExtractLarge(*item - 1) : nullptr;
   newIcon_->SetPicture({});
   toolkit::DrawIconInPicture(icon, *newIcon_, 0, 0);
   newIcon_->Refresh();

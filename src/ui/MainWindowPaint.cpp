@@ -8,9 +8,7 @@
 namespace ui {
 namespace {
 
-constexpr COLORREF kLogoTransparent = RGB(255, 255, 0);
-constexpr int kLogoLeft = 50;
-constexpr int kLogoTop = 5;
+constexpr POINT kLogoAt{50, 5};
 constexpr int kScratchSize = 32;
 constexpr float kEtchedLineTop = 42;
 constexpr float kEtchedLineLength = 300;
@@ -33,17 +31,8 @@ void MainWindow::Tile() {
 }
 
 void MainWindow::OnPaint(HDC) {
-  platform::Picture skin = context_.pictures.Bitmap(IDB_SKIN);
-  TileBitmap(Hwnd(), static_cast<HBITMAP>(skin.Handle()));
-
-  float x1 = 0, y1 = kEtchedLineTop, x2 = kEtchedLineLength, y2 = kEtchedLineTop;
-  DrawEtchedLine(*this, x1, y1, x2, y2);
-
-  scratch_->SetAutoSize(true);
-  scratch_->SetPicture(context_.pictures.Bitmap(IDB_LOGO));
-  TransparentBlit(hDC(), kLogoLeft, kLogoTop, scratch_->ScaleWidth(), scratch_->ScaleHeight(),
-                  scratch_->hDC(), 0, 0, kLogoTransparent);
-  scratch_->SetAutoSize(false);
+  PaintSkin(*this, context_.pictures.Bitmap(IDB_SKIN), context_.pictures.Bitmap(IDB_LOGO),
+            *scratch_, kEtchedLineTop, kEtchedLineLength, kLogoAt);
   scratch_->Resize(kScratchSize, kScratchSize);
 
   for (toolkit::Element* framed : std::initializer_list<toolkit::Element*>{

@@ -15,9 +15,9 @@ bool InstallProgramFont(toolkit::Form& mainWindow, const std::string& programFol
   {
     // Written over from the start and not shortened: a file left by an
     // earlier run, or one that cannot be written, is used as it is.
-    platform::ScopedKernelHandle file(::CreateFileA(path.c_str(), GENERIC_WRITE,
-                                                    FILE_SHARE_READ, nullptr, OPEN_ALWAYS,
-                                                    FILE_ATTRIBUTE_NORMAL, nullptr));
+    platform::ScopedKernelHandle file(::CreateFileA(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ,
+                                                    nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL,
+                                                    nullptr));
     if (file.get() != INVALID_HANDLE_VALUE) {
       DWORD written = 0;
       ::WriteFile(file.get(), data.data(), static_cast<DWORD>(data.size()), &written, nullptr);
