@@ -1,0 +1,218 @@
+// The thin wrappers of the Windows services, on the test library, the icon
+// test files and scratch folders.
+#include <gtest/gtest.h>
+
+#include "platform/CommonDialogText.h"
+#include "platform/FileSystem.h"
+#include "platform/IconFile.h"
+#include "platform/IconFileShape.h"
+#include "platform/IniFile.h"
+#include "platform/Registry.h"
+#include "platform/ResourceLibrary.h"
+#include "platform/TextRules.h"
+#include "support/TestSupport.h"
+#include "test_resource_ids.h"
+
+namespace {
+
+using testing_support::ReadWholeFile;
+using testing_support::ScratchFolder;
+using testing_support::TestFolder;
+using testing_support::WriteWholeFile;
+
+const std::string kBlob("\x4D\x00\xFF\x0A\x80\x41", 6);
+
+std::string Failure(const platform::ResourceLibrary& library) {
+  return std::to_string(library.LastError().number) + " " + library.LastError().description;
+}
+
+TEST(IniFile, ValuesRoundTripAndMissingOnesAreEmpty) {
+  ScratchFolder folder;
+  const std::string file = folder / "x.ini";
+  EXPECT_EQ(platform::ReadIniValue("S", "K", file), "");
+  EXPECT_TRUE(platform::WriteIniValue("S", "K", "  spaced value ", file));
+  EXPECT_EQ(platform::ReadIniValue("s", "k", file), "spaced value") << "names ignore case";
+  WriteWholeFile(file, "[S]\r\nLong=" + std::string(40000, 'y') + "\r\n");
+  EXPECT_EQ(platform::ReadIniValue("S", "Long", file).size(), 29999u);
+}
+
+TEST(ResourceLibrary, StringsAreCutAndMissingOnesRecorded) {
+  platform::ResourceLibrary library;
+  library.Open(TestFolder() + "TESTRES.DLL");
+  EXPECT_EQ(library.String(TEST_STR_HELLO), "Hello");
+  EXPECT_EQ(library.String(TEST_STR_HELLO, 3), "Hel");
+  EXPECT_EQ(library.String(TEST_STR_300).substr(250), "01234");
+  EXPECT_EQ(library.String(TEST_STR_300).size(), 255u);
+  EXPECT_EQ(library.LastError().number, 0);
+  EXPECT_EQ(library.String(TEST_STR_MISSING), "");
+  EXPECT_EQ(Failure(library), "326 String resource with identifier 13 not found.");
+}
+
+TEST(ResourceLibrary, DataTravelsByteForByteAndIsSavedOnlyWhereAllowed) {
+  platform::ResourceLibrary library;
+  library.Open(TestFolder() + "TESTRES.DLL");
+  EXPECT_EQ(library.Data(TEST_BLOB), kBlob);
+  EXPECT_EQ(library.Data(TEST_EMPTY_BLOB), "");
+  EXPECT_EQ(library.LastError().number, 0) << "an empty resource is no error";
+  EXPECT_EQ(library.Data(6999), "");
+  EXPECT_EQ(Failure(library), "326 Custom resource with identifier 6999 not found.");
+  ScratchFolder folder;
+  const std::string path = folder / "saved.bin";
+  WriteWholeFile(path, "user data");
+  EXPECT_EQ(library.SaveData(TEST_BLOB, path, "CUSTOM", false), platform::kErrFileExists);
+  EXPECT_EQ(ReadWholeFile(path), "user data");
+  EXPECT_EQ(library.SaveData(TEST_BLOB, path, "CUSTOM", true), 0);
+  EXPECT_EQ(ReadWholeFile(path), kBlob);
+}
+
+TEST(ResourceLibrary, PicturesOwnTheirHandlesAndUnknownOnesAreNone) {
+  platform::ResourceLibrary library;
+  library.Open(TestFolder() + "TESTRES.DLL");
+  platform::Picture bitmap = library.Bitmap(TEST_BITMAP);
+  EXPECT_EQ(bitmap.Type(), PICTYPE_BITMAP);
+  EXPECT_EQ(library.Icon(TEST_ICON).Type(), PICTYPE_ICON);
+  EXPECT_EQ(library.Cursor(TEST_CURSOR).Type(), PICTYPE_ICON);
+  platform::Picture shared = bitmap;
+  HANDLE handle = bitmap.Handle();
+  bitmap.Reset();
+  EXPECT_NE(::GetObjectType(handle), 0u) << "a copy still holds it";
+  shared.Reset();
+  EXPECT_EQ(::GetObjectType(handle), 0u) << "the last reference deletes the bitmap";
+  EXPECT_FALSE(library.Icon(TEST_BITMAP));
+  EXPECT_EQ(Failure(library), "326 Picture resource with identifier 2000 not found.");
+}
+
+TEST(ResourceLibrary, WithoutALibraryNothingLeaksFromTheProgramOrTheSystem) {
+  ScratchFolder folder;
+  WriteWholeFile(folder / "Resource.DLL", "MZ this is not a library");
+  for (const std::string& file : {folder / "NOPE.DLL", folder / "Resource.DLL"}) {
+    platform::ResourceLibrary library;
+    library.Open(TestFolder() + "TESTRES.DLL");
+    library.Open(file);
+    EXPECT_EQ(library.Name(), "");
+    EXPECT_EQ(Failure(library), "48 Error in loading DLL: " + file);
+    EXPECT_EQ(::GetModuleHandleA((TestFolder() + "TESTRES.DLL").c_str()), nullptr);
+    EXPECT_EQ(library.String(TEST_STR_HELLO), "");
+    EXPECT_FALSE(library.Icon(32512));    // IDI_APPLICATION
+    EXPECT_FALSE(library.Bitmap(32754));  // a system bitmap
+    EXPECT_EQ(library.Url(TEST_BLOB), "");
+  }
+  platform::ResourceLibrary closed;
+  closed.Open(TestFolder() + "TESTRES.DLL");
+  closed.Close();
+  EXPECT_EQ(closed.Handle(), nullptr);
+  EXPECT_EQ(closed.Data(TEST_BLOB), "");
+}
+
+TEST(IconFile, CountsAndExtractsWhatTheFileHolds) {
+  struct Row {
+    const char* file;
+    int count;
+  } rows[] = {{"icons.ico", 1},   {"ICONS120.DLL", 120}, {"NOICONS.DLL", 0},
+              {"notes.txt", 0},   {"missing.ico", 0},    {"", 0}};
+  for (const Row& row : rows) {
+    const platform::IconFile icons(row.file[0] ? TestFolder() + row.file : "");
+    EXPECT_EQ(icons.Count(), row.count) << row.file;
+    HICON last = icons.ExtractLarge(row.count - 1);
+    HICON beyond = icons.ExtractLarge(row.count);
+    EXPECT_EQ(last != nullptr, row.count > 0) << row.file;
+    EXPECT_EQ(beyond, nullptr) << row.file;
+    platform::ReleaseIcon(last);
+  }
+  // The numbered libraries put the icon's position in its centre pixel.
+  HICON icon = platform::IconFile(TestFolder() + "ICONS120.DLL").ExtractLarge(77);
+  ICONINFO info{};
+  ASSERT_TRUE(::GetIconInfo(icon, &info));
+  int width = 0;
+  const auto pixels = testing_support::ReadPixels(info.hbmColor, width);
+  EXPECT_EQ(pixels[16 * width + 16], RGB(77, 0, 0));
+  ::DeleteObject(info.hbmColor);
+  ::DeleteObject(info.hbmMask);
+  platform::ReleaseIcon(icon);
+}
+
+TEST(IconFileShape, TablesThatOutrunTheFileAreDamaged) {
+  ScratchFolder folder;
+  const std::string icon = ReadWholeFile(TestFolder() + "icons.ico");
+  const std::string library = ReadWholeFile(TestFolder() + "ICONS120.DLL");
+  std::string many = icon;
+  many[4] = many[5] = '\xFF';
+  struct Row {
+    const char* name;
+    std::string bytes;
+    bool intact;
+  } rows[] = {{"whole.ico", icon, true},
+              {"whole.dll", library, true},
+              {"many.ico", many, false},
+              {"cut.ico", icon.substr(0, icon.size() - 10), false},
+              {"cut.dll", library.substr(0, library.size() / 2), false},
+              {"text.txt", "plain text", true}};
+  for (const Row& row : rows) {
+    WriteWholeFile(folder / row.name, row.bytes);
+    EXPECT_EQ(platform::IconSourceIsIntact(folder / row.name), row.intact) << row.name;
+  }
+  EXPECT_TRUE(platform::IconSourceIsIntact(folder / "missing.dll"));
+}
+
+TEST(Registry, TextsAndNumbersRoundTripAndOtherKindsAreLeftAlone) {
+  const std::string key = "Software\\MorvaneTests";
+  HKEY created = nullptr;
+  ASSERT_EQ(::RegCreateKeyA(HKEY_CURRENT_USER, key.c_str(), &created), ERROR_SUCCESS);
+  platform::SetRegistryValue(HKEY_CURRENT_USER, key, "Text", std::string("abc"),
+                             platform::kTextKind);
+  platform::SetRegistryValue(HKEY_CURRENT_USER, key, "Number", DWORD{42}, platform::kNumberKind);
+  ::RegSetValueExA(created, "Binary", 0, REG_BINARY, reinterpret_cast<const BYTE*>("xy"), 2);
+  ::RegSetValueExA(created, "System", 0, REG_SZ, reinterpret_cast<const BYTE*>("xyz"), 4);
+  EXPECT_EQ(platform::GetRegistryValue(HKEY_CURRENT_USER, key, "Text"),
+            platform::RegistryValue(std::string("abc")));
+  EXPECT_EQ(platform::GetRegistryValue(HKEY_CURRENT_USER, key, "System"),
+            platform::RegistryValue(std::string("xyz\0", 4)));
+  EXPECT_EQ(platform::RegistryText(platform::GetRegistryValue(HKEY_CURRENT_USER, key, "Number")),
+            "42");
+  platform::RegistryValue untouched = DWORD{7};
+  EXPECT_EQ(platform::ReadRegistryValue(created, "Binary", untouched), platform::kUnhandledKind);
+  EXPECT_EQ(untouched, platform::RegistryValue(DWORD{7}));
+  platform::SetRegistryValue(HKEY_CURRENT_USER, key + "\\Missing", "X", DWORD{1},
+                             platform::kNumberKind);
+  EXPECT_EQ(::RegDeleteKeyA(HKEY_CURRENT_USER, (key + "\\Missing").c_str()), ERROR_FILE_NOT_FOUND);
+  ::RegCloseKey(created);
+  ::RegDeleteKeyA(HKEY_CURRENT_USER, key.c_str());
+}
+
+TEST(CommonDialogText, ConversionsForTheDialogRecords) {
+  EXPECT_EQ(platform::ConvertFilter("Icons|*.ico|All|*.*"),
+            std::string("Icons\0*.ico\0All\0*.*\0", 20));
+  EXPECT_EQ(platform::CutAtNul(std::string("ab\0cd", 5)), "ab");
+  EXPECT_EQ(platform::FaceNameToText("Tahoma\0junk", 11), "Tahoma");
+  EXPECT_EQ(platform::FaceNameToText("ABCD", 4), "ABCD");
+  EXPECT_EQ(platform::FileNameBuffer("abc", 6), std::string("abc  \0", 6));
+  EXPECT_EQ(platform::FileNameBuffer("abcdefgh", 4), std::string("abc\0", 4));
+  EXPECT_EQ(platform::TenthsToPoints(105), 10);
+  EXPECT_EQ(platform::TenthsToPoints(115), 12);
+}
+
+TEST(TextRules, HowPeoplesTextIsRead) {
+  EXPECT_EQ(platform::TrimBlanks("  a b\t "), "a b\t");
+  EXPECT_EQ(platform::LowerCase("C:\\CAF\xC9.ICO"), "c:\\caf\xE9.ico");
+  EXPECT_EQ(platform::TextBeforeNul(std::string("ab\0c", 4)), "ab");
+  EXPECT_EQ(platform::TextBeforeNul("abc"), "");
+  struct Row {
+    const char* text;
+    std::optional<std::int32_t> number;
+  } rows[] = {{" 42 ", 42},           {"-7", -7},          {"+3", 3},
+              {"2147483647", INT32_MAX}, {"2147483648", {}}, {"1x", {}},
+              {"", {}},               {"0x10", {}},        {"1.5", {}}};
+  for (const Row& row : rows) EXPECT_EQ(platform::ToWholeNumber(row.text), row.number) << row.text;
+}
+
+TEST(FileSystem, WildcardsMatchAndFoldersAreTold) {
+  ScratchFolder folder;
+  WriteWholeFile(folder / "a.ico", "x");
+  EXPECT_TRUE(platform::FileExists(folder / "*.ico"));
+  EXPECT_FALSE(platform::FileExists(folder / "*.dll"));
+  EXPECT_TRUE(platform::FolderExists(folder.Path()));
+  EXPECT_FALSE(platform::FolderExists(folder.Path() + "\\"));
+  EXPECT_FALSE(platform::FolderExists(folder / "a.ico"));
+}
+
+}  // namespace

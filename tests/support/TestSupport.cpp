@@ -1,0 +1,153 @@
+#include "support/TestSupport.h"
+
+#include <shlobj.h>
+
+#include <algorithm>
+#include <chrono>
+#include <fstream>
+#include <sstream>
+#include <stdexcept>
+
+namespace testing_support {
+
+namespace {
+std::string FullPath(const std::string& path) {
+  char buffer[MAX_PATH * 4] = {};
+  const DWORD length = ::GetFullPathNameA(path.c_str(), sizeof buffer, buffer, nullptr);
+  return length ? std::string(buffer, length) : path;
+}
+}  // namespace
+
+std::string TestFolder() {
+  char buffer[MAX_PATH * 4] = {};
+  const std::string path(buffer, ::GetModuleFileNameA(nullptr, buffer, sizeof buffer));
+  return path.substr(0, path.find_last_of('\\') + 1);
+}
+
+std::string DistFolder() {
+  return FullPath(TestFolder() + "..\\dist") + "\\";
+}
+
+std::string ReadWholeFile(const std::string& path) {
+  std::ifstream in(path, std::ios::binary);
+  std::ostringstream bytes;
+  bytes << in.rdbuf();
+  return bytes.str();
+}
+
+void WriteWholeFile(const std::string& path, const std::string& bytes) {
+  std::ofstream out(path, std::ios::binary | std::ios::trunc);
+  out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  if (!out) throw std::runtime_error("cannot write " + path);
+}
+
+void DeleteTree(const std::string& path) {
+  const DWORD attributes = ::GetFileAttributesA(path.c_str());
+  if (attributes == INVALID_FILE_ATTRIBUTES) return;
+  // Hidden, system and read-only entries refuse deletion otherwise.
+  ::SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
+  if (!(attributes & FILE_ATTRIBUTE_DIRECTORY)) {
+    ::DeleteFileA(path.c_str());
+    return;
+  }
+  WIN32_FIND_DATAA entry;
+  HANDLE search = ::FindFirstFileA((path + "\\*").c_str(), &entry);
+  if (search != INVALID_HANDLE_VALUE) {
+    do {
+      const std::string name = entry.cFileName;
+      if (name != "." && name != "..") DeleteTree(path + "\\" + name);
+    } while (::FindNextFileA(search, &entry));
+    ::FindClose(search);
+  }
+  ::RemoveDirectoryA(path.c_str());
+}
+
+ScratchFolder::ScratchFolder() {
+  char temp[MAX_PATH] = {};
+  ::GetTempPathA(MAX_PATH, temp);
+  static unsigned serial = 0;
+  for (;;) {
+    const std::string candidate = std::string(temp) + "morvane-test-" +
+                                  std::to_string(::GetCurrentProcessId()) + "-" +
+                                  std::to_string(++serial);
+    if (::CreateDirectoryA(candidate.c_str(), nullptr)) {
+      path_ = FullPath(candidate);
+      return;
+    }
+    if (::GetLastError() != ERROR_ALREADY_EXISTS) throw std::runtime_error("no scratch folder");
+  }
+}
+
+DibSurface::DibSurface(int width, int height, COLORREF fill)
+    : width_(width), dc_(::CreateCompatibleDC(nullptr)) {
+  BITMAPINFO info{};
+  info.bmiHeader = {sizeof(BITMAPINFOHEADER), width, -height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+  void* bits = nullptr;
+  bitmap_ = ::CreateDIBSection(dc_, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+  bits_ = static_cast<std::uint32_t*>(bits);
+  original_ = ::SelectObject(dc_, bitmap_);
+  RECT all{0, 0, width, height};
+  ::SetDCBrushColor(dc_, fill);
+  ::FillRect(dc_, &all, static_cast<HBRUSH>(::GetStockObject(DC_BRUSH)));
+}
+
+DibSurface::~DibSurface() {
+  ::SelectObject(dc_, original_);
+  ::DeleteObject(bitmap_);
+  ::DeleteDC(dc_);
+}
+
+COLORREF DibSurface::Pixel(int x, int y) const {
+  ::GdiFlush();
+  const std::uint32_t p = bits_[static_cast<size_t>(y) * width_ + x];
+  return RGB((p >> 16) & 0xFF, (p >> 8) & 0xFF, p & 0xFF);
+}
+
+std::vector<COLORREF> ReadPixels(HBITMAP bitmap, int& width) {
+  BITMAP shape{};
+  width = 0;
+  if (!::GetObjectA(bitmap, sizeof shape, &shape)) return {};
+  DibSurface copy(shape.bmWidth, shape.bmHeight, 0);
+  HDC source = ::CreateCompatibleDC(nullptr);
+  HGDIOBJ old = ::SelectObject(source, bitmap);
+  ::BitBlt(copy.Dc(), 0, 0, shape.bmWidth, shape.bmHeight, source, 0, 0, SRCCOPY);
+  ::SelectObject(source, old);
+  ::DeleteDC(source);
+  std::vector<COLORREF> pixels;
+  for (int y = 0; y < shape.bmHeight; ++y) {
+    for (int x = 0; x < shape.bmWidth; ++x) pixels.push_back(copy.Pixel(x, y));
+  }
+  width = shape.bmWidth;
+  return pixels;
+}
+
+std::string WindowText(HWND window) {
+  char text[1024] = {};
+  return std::string(text, std::max(0, ::GetWindowTextA(window, text, sizeof text)));
+}
+
+bool PumpUntil(const std::function<bool()>& done, int limitMs) {
+  const auto deadline = std::chrono::steady_clock::now() + std::chrono::milliseconds(limitMs);
+  for (;;) {
+    MSG message;
+    while (::PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
+      ::TranslateMessage(&message);
+      ::DispatchMessageA(&message);
+    }
+    if (done()) return true;
+    if (std::chrono::steady_clock::now() >= deadline) return false;
+    ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 10, QS_ALLINPUT);
+  }
+}
+
+void RecordingNotifier::Notify(LONG event, UINT flags, const void* item1, const void*) {
+  std::string item;
+  if ((flags & SHCNF_TYPE) == SHCNF_DWORD) {
+    item = std::to_string(reinterpret_cast<INT_PTR>(item1));
+  } else if (item1) {
+    item = static_cast<const char*>(item1);
+  }
+  calls.push_back({event, item});
+}
+
+}  // namespace testing_support

@@ -1,0 +1,74 @@
+// What the unit tests share: where the built files are, scratch folders that
+// clean up after themselves, pixels read through a 32-bit DIB, a deadline
+// for waiting on messages, and a shell notifier that records instead.
+#pragma once
+#include <windows.h>
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+#include "platform/ShellNotifier.h"
+
+namespace testing_support {
+
+// Folders end with "\".
+std::string TestFolder();  // the test programs, TESTRES.DLL and the icon files
+std::string DistFolder();  // the shipping folder
+std::string ReadWholeFile(const std::string& path);
+void WriteWholeFile(const std::string& path, const std::string& bytes);
+void DeleteTree(const std::string& path);
+
+class ScratchFolder {
+ public:
+  ScratchFolder();
+  ~ScratchFolder() { DeleteTree(path_); }
+  ScratchFolder(const ScratchFolder&) = delete;
+  ScratchFolder& operator=(const ScratchFolder&) = delete;
+  const std::string& Path() const { return path_; }  // without a trailing "\"
+  std::string operator/(const std::string& name) const { return path_ + "\\" + name; }
+
+ private:
+  std::string path_;
+};
+
+// A 32-bit top-down DIB section selected into a memory DC, so that pixels are
+// read straight from memory after GdiFlush.
+class DibSurface {
+ public:
+  DibSurface(int width, int height, COLORREF fill);
+  ~DibSurface();
+  DibSurface(const DibSurface&) = delete;
+  DibSurface& operator=(const DibSurface&) = delete;
+  HDC Dc() const { return dc_; }
+  HBITMAP Bitmap() const { return bitmap_; }
+  COLORREF Pixel(int x, int y) const;
+
+ private:
+  int width_;
+  HDC dc_;
+  HBITMAP bitmap_;
+  HGDIOBJ original_;
+  std::uint32_t* bits_ = nullptr;
+};
+
+// The colours of a bitmap, row by row from the top; empty when it cannot be read.
+std::vector<COLORREF> ReadPixels(HBITMAP bitmap, int& width);
+
+std::string WindowText(HWND window);
+
+// Lets messages run until `done` holds or `limitMs` passes; true when it held.
+bool PumpUntil(const std::function<bool()>& done, int limitMs = 5000);
+
+struct Notification {
+  LONG event;
+  std::string item;  // the first item: a path, a number, or "" for none
+  bool operator==(const Notification&) const = default;
+};
+
+class RecordingNotifier : public platform::ShellNotifier {
+ public:
+  void Notify(LONG event, UINT flags, const void* item1, const void* item2) override;
+  std::vector<Notification> calls;
+};
+
+}  // namespace testing_support
