@@ -1,4 +1,4 @@
-#include "support/TestSupport.h"
+#include "BenchSupport.h"
 
 #include <fstream>
 #include <sstream>

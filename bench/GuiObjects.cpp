@@ -1,4 +1,4 @@
-#include "support/GuiObjects.h"
+#include "GuiObjects.h"
 
 #include <psapi.h>
 

@@ -7,23 +7,21 @@
 #include <vector>
 
 #include "Clock.h"
-#include "frame/CResDll.h"
-#include "frame/RunState.h"
-#include "icons/modExtractIcon.h"
-#include "icons/modIcon.h"
+#include "platform/IconFile.h"
 #include "resource_ids.h"
 #include "toolkit/MessageLoop.h"
-#include "ui/frmShadow.h"
+#include "ui/ControlIds.h"
 
 namespace bench {
 namespace {
 
 constexpr char kPictureLibrary[] = "Resource.DLL";
 constexpr char kLanguageLibrary[] = "LANG_ENG.DLL";
+constexpr char kShippedLibrary[] = "iconos.dll";
 
 template <typename T>
-T& Named(ui::FrmPrincipal& window, const char* name) {
-  return dynamic_cast<T&>(*window.Find(name));
+T& Named(MainWindowRun& run, const char* name) {
+  return dynamic_cast<T&>(*run.window->Find(name));
 }
 
 void DestroyAll(const std::vector<HICON>& icons) {
@@ -34,32 +32,37 @@ void DestroyAll(const std::vector<HICON>& icons) {
 
 }  // namespace
 
-ui::FrmPrincipal& OpenMainWindow(const std::string& programFolder,
-                                 const std::string& targetFolder) {
-  frame::startingUp = true;
-  frame::programFolder = programFolder;
-  frame::languageFile = kLanguageLibrary;
-  frame::PictureLibrary().DllName(programFolder + kPictureLibrary);
-  frame::LanguageLibrary().DllName(programFolder + kLanguageLibrary);
-  frame::targetFolder = targetFolder;
-
-  ui::FrmPrincipal& window = ui::MainWindow();
+MainWindowRun& OpenMainWindow(const std::string& programFolder,
+                              const std::string& targetFolder) {
+  auto* run = new MainWindowRun;
+  run->pictures.Open(programFolder + kPictureLibrary);
+  run->language.Open(programFolder + kLanguageLibrary);
+  run->context.emplace(ui::WindowContext{run->language, run->pictures, programFolder,
+                                         targetFolder, RECT{}});
+  run->about = std::make_unique<ui::AboutWindow>(*run->context);
+  // As the program's own end: the close sequence ends the process.
+  run->window = std::make_unique<ui::MainWindow>(*run->context, run->settings, false, *run->about,
+                                                 [] { ::ExitProcess(0); });
+  ui::MainWindow& window = *run->window;
   window.Load();
   toolkit::DoEvents();
   window.Tile();
-  ui::ShadowWindow().Show();
+  window.Shadow().Show();
   window.Show();
   toolkit::DoEvents();
-  frame::startingUp = false;
-  return window;
+  run->listedFile = programFolder + kShippedLibrary;
+  return *run;
 }
 
-double TimeBrowserLoad(ui::FrmPrincipal& window, const std::string& file, int icons) {
-  frame::currentIconFile = file;
+double TimeBrowserLoad(MainWindowRun& run, const std::string& file, int icons) {
+  if (file != run.listedFile) {
+    run.window->OpenIconFile(file);
+    run.listedFile = file;
+  }
   // Paints left over from the previous load are not this load's cost.
   toolkit::DoEvents();
-  const double elapsed = TimeMs([&] { window.CargarIconosdeArchivo(); });
-  const int listed = Named<toolkit::ListView>(window, "lvwIconos").Count();
+  const double elapsed = TimeMs([&] { run.window->LoadIcons(); });
+  const int listed = Named<toolkit::ListView>(run, ui::names::kIconList).Count();
   toolkit::DoEvents();
   return listed == icons ? elapsed : -1;
 }
@@ -86,12 +89,13 @@ double TimeBatchedExtraction(const std::string& file, int icons) {
   });
 }
 
-StepCosts TimeLoadSteps(ui::FrmPrincipal& window, const std::string& file, int icons) {
-  auto& images = Named<toolkit::ImageList>(window, "img32");
-  auto& list = Named<toolkit::ListView>(window, "lvwIconos");
+StepCosts TimeLoadSteps(MainWindowRun& run, const std::string& file, int icons) {
+  ui::MainWindow& window = *run.window;
+  auto& images = Named<toolkit::ImageList>(run, ui::names::kIconImages);
+  auto& list = Named<toolkit::ListView>(run, ui::names::kIconList);
   StepCosts costs;
 
-  const toolkit::Picture background = frame::PictureLibrary().LoadDllBitmap(IDB_SKIN);
+  const platform::Picture background = run.pictures.Bitmap(IDB_SKIN);
   costs.progressMs = TimeMs([&] {
     for (int i = 0; i < icons; ++i) window.ShowProgress(i, icons, background);
   });
@@ -100,14 +104,14 @@ StepCosts TimeLoadSteps(ui::FrmPrincipal& window, const std::string& file, int i
   list.SetIcons(nullptr);
   list.Clear();
   images.Clear();
-  HICON icon = icons::ExtractLargeIcon(file, 0);
+  HICON icon = platform::IconFile(file).ExtractLarge(0);
   costs.iconImageMs = TimeMs([&] {
     for (int i = 0; i < icons; ++i) window.AddIconImage(icon, i);
   });
-  icons::ReleaseIcon(icon);
+  platform::ReleaseIcon(icon);
 
   // The scratch surface's last picture, as each pass leaves one.
-  const toolkit::Picture image = Named<toolkit::PictureBox>(window, "picTMP").GetPicture();
+  const platform::Picture image = Named<toolkit::PictureBox>(run, ui::names::kScratch).GetPicture();
   images.Clear();
   costs.imageListMs = TimeMs([&] {
     for (int i = 0; i < icons; ++i) images.Add("c" + std::to_string(i), image);

@@ -8,7 +8,7 @@
 #include <functional>
 
 #include "Clock.h"
-#include "support/TestSupport.h"
+#include "BenchSupport.h"
 #include "ui/ControlIds.h"
 
 namespace bench {
@@ -67,7 +67,7 @@ StartupSamples MeasureStartup(const std::string& morvaneExe, const std::string& 
     // The program answers only between its steps, so the answer comes once
     // the listing is over.
     DWORD_PTR items = 0;
-    HWND list = ::GetDlgItem(window, ui::ids::lvwIconos);
+    HWND list = ::GetDlgItem(window, ui::ids::iconList);
     return list &&
            ::SendMessageTimeoutA(list, LVM_GETITEMCOUNT, 0, 0, SMTO_NORMAL, kAnswerLimitMs,
                                  &items) &&

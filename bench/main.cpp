@@ -22,9 +22,9 @@
 #include "ExitWatch.h"
 #include "LoadBench.h"
 #include "StartupBench.h"
-#include "icons/modExtractIcon.h"
-#include "support/GuiObjects.h"
-#include "support/TestSupport.h"
+#include "platform/IconFile.h"
+#include "GuiObjects.h"
+#include "BenchSupport.h"
 
 namespace {
 
@@ -233,7 +233,7 @@ int main(int argc, char** argv) {
   auto* windowCopy = new testing_support::ProgramCopy();
   resources.scratchFolders = {target->Path(), startupCopy->Folder(), windowCopy->Folder()};
   const std::string shippedFile = windowCopy->File(kShippedLibrary);
-  const int shippedIcons = icons::GetIconCount(shippedFile);
+  const int shippedIcons = platform::IconFile(shippedFile).Count();
 
   Progress("start-up, " + std::to_string(runs) + " runs of each program");
   const bench::StartupSamples startup =
@@ -241,13 +241,13 @@ int main(int argc, char** argv) {
                             target->Path(), shippedIcons, runs);
 
   Progress("setting up the main window in this process");
-  ui::FrmPrincipal& window = bench::OpenMainWindow(windowCopy->Folder(), target->Path());
+  bench::MainWindowRun& window = bench::OpenMainWindow(windowCopy->Folder(), target->Path());
   resources.afterSetUp = TakeSnapshot();
   const double firstShippedLoad = bench::TimeBrowserLoad(window, shippedFile, shippedIcons);
 
   Progress("resources: " + std::to_string(kLeakLoads) + " loads of " + kLeakLibrary);
   const std::string leakFile = libraries + kLeakLibrary;
-  const int leakIcons = icons::GetIconCount(leakFile);
+  const int leakIcons = platform::IconFile(leakFile).Count();
   bench::TimeBrowserLoad(window, leakFile, leakIcons);
   resources.afterFirstLoad = TakeSnapshot();
   for (int load = 2; load <= kLeakLoads; ++load) {
@@ -257,7 +257,7 @@ int main(int argc, char** argv) {
 
   std::vector<LoadRow> rows;
   for (const char* name : kLibraries) {
-    rows.push_back({name, icons::GetIconCount(libraries + name), {}, {}, {}, {}});
+    rows.push_back({name, platform::IconFile(libraries + name).Count(), {}, {}, {}, {}});
   }
   std::vector<double> shippedLoads;
   int failedLoads = 0;
@@ -307,7 +307,7 @@ int main(int argc, char** argv) {
     Progress("cannot watch the process end; the close is not measured");
     return 1;
   }
-  window.Unload();
+  window.window->Unload();
   Progress("the close sequence did not end the process");
   return 1;
 }
