@@ -102,12 +102,6 @@ TEST_F(FolderTest, RemovalDeletesOnlyItsFilesAndUnmarksTheFolder) {
                                                      {SHCNE_ASSOCCHANGED, ""}}));
 }
 
-TEST(SettingsFileAttributes, CarryTheFoldersWordPlusHiddenAndSystem) {
-  // Wine keeps no read-only bit on folders, so only the word shows it.
-  EXPECT_EQ(core::SettingsFileAttributes(FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY),
-            DWORD{FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM});
-}
-
 TEST_F(FolderTest, RecentFilesGoOnTopOnceAndAreSavedUnderTheirNumbers) {
   const std::string ini = scratch_ / core::kRecentFileName;
   WriteWholeFile(ini, "[Recent]\r\nARA01=c:\\a.ico\r\nARA03=c:\\c.ico\r\n");

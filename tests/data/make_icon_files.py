@@ -1,19 +1,10 @@
 #!/usr/bin/python3
-"""Writes the icon files the icon tests and benchmarks read.
-
-Usage: make_icon_files.py OUTDIR COUNT...
-
-  icons.ico        one icon with 16, 32 and 48 pixel images; the 32 pixel
-                   image is a checkerboard of opaque and fully transparent
-                   4 x 4 squares, so drawing it shows what transparency does
-  notes.txt        a file with no icons in it
-  NOICONS.rc       a resource library holding a string and no icon
-  ICONS<n>.rc      for each COUNT, a resource library script holding n icons,
-                   identifiers 1 to n in file order
-  numbered/*.ico   the icons those scripts take in: the icon at 0-based
-                   position i is an opaque square in a colour of its own whose
-                   centre pixel reads RGB(i % 256, i // 256, 0)
-"""
+"""Writes the icon files of the tests and the benchmark into OUTDIR:
+icons.ico (16, 32 and 48 pixels; the 32 pixel image a checkerboard of opaque
+and transparent 4 x 4 squares), notes.txt (no icons), NOICONS.rc (a library
+without icons) and for each COUNT an ICONS<n>.rc of n icons, identifiers 1 to
+n, whose icon at position i has the centre pixel RGB(i % 256, i // 256, 0).
+Usage: make_icon_files.py OUTDIR COUNT..."""
 
 import colorsys
 import os
@@ -78,9 +69,6 @@ def write(path, data):
 
 
 def main(argv):
-    if len(argv) < 2:
-        sys.stderr.write("usage: make_icon_files.py OUTDIR COUNT...\n")
-        return 2
     out = argv[1]
     counts = [int(n) for n in argv[2:]]
     os.makedirs(os.path.join(out, "numbered"), exist_ok=True)

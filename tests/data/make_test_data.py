@@ -1,9 +1,8 @@
 #!/usr/bin/env python3
 """Writes the small binary files that the test resource library embeds:
-a bitmap, an icon, a cursor, a sound and two raw data blobs."""
+a bitmap, an icon, a cursor and two raw data blobs."""
 import struct
 import sys
-import wave
 from pathlib import Path
 
 
@@ -36,12 +35,6 @@ def main(out):
     # Bytes 0 and 255 check that raw data travels unchanged, NUL included.
     (out / "blob.bin").write_bytes(bytes([0x4D, 0x00, 0xFF, 0x0A, 0x80, 0x41]))
     (out / "empty.bin").write_bytes(b"")
-    with wave.open(str(out / "beep.wav"), "wb") as w:
-        w.setnchannels(1)
-        w.setsampwidth(1)
-        w.setframerate(8000)
-        w.writeframes(bytes([128, 200, 128, 56] * 200))
-
 
 if __name__ == "__main__":
     main(sys.argv[1])

@@ -1,7 +1,6 @@
 #pragma once
 
 #define TEST_STR_HELLO 10
-#define TEST_STR_255 11
 #define TEST_STR_300 12
 #define TEST_STR_MISSING 13
 #define TEST_BITMAP 2000
@@ -9,4 +8,3 @@
 #define TEST_CURSOR 5000
 #define TEST_BLOB 6000
 #define TEST_EMPTY_BLOB 6001
-#define TEST_SOUND 7000

@@ -8,10 +8,7 @@ set -euo pipefail
 source "$(dirname "$0")/../../scripts/common.sh"
 build_dir=$1
 
-fail() {
-  echo "FAILED: $*"
-  exit 1
-}
+fail() { echo "FAILED: $*"; exit 1; }
 # A registry value's data as `reg query` prints it, or nothing.
 reg_value() {
   wine reg query "$1" "${@:2}" 2>/dev/null </dev/null | tr -d '\r' |
@@ -61,19 +58,16 @@ mkdir "$folder"
 windows_folder=$(winepath -w "$folder")
 wine_command_line "${command/\%1/"$windows_folder"}" &
 morvane=$!
-shown=""
-for _ in $(seq 80); do
-  kill -0 "$morvane" 2>/dev/null || break
-  if xdotool search --onlyvisible --name '^Morvane - ' >/dev/null 2>&1; then
-    shown=1
-    break
-  fi
-  sleep 0.25
-done
-[ -n "$shown" ] || fail "Morvane showed no window on $folder"
+# Waits up to $1 quarter-seconds for the command after it to succeed.
+within() {
+  local n
+  for n in $(seq "$1"); do "${@:2}" && return 0; sleep 0.25; done
+  return 1
+}
+within 80 xdotool search --onlyvisible --name '^Morvane - ' >/dev/null 2>&1 ||
+  fail "Morvane showed no window on $folder"
 wine taskkill /im Morvane.exe >/dev/null 2>&1 </dev/null
-for _ in $(seq 40); do kill -0 "$morvane" 2>/dev/null || break; sleep 0.25; done
-kill -0 "$morvane" 2>/dev/null && fail "Morvane did not close when asked"
+within 40 eval '! kill -0 "$morvane" 2>/dev/null' || fail "Morvane did not close when asked"
 morvane=""
 
 # A run that did not end in order leaves its font file; the recent list stays.
@@ -82,8 +76,7 @@ printf '[Recent]\r\nARA01=c:\\windows\\system32\\shell32.dll\r\n' >"$install_uni
 # The uninstaller goes on from a copy of itself and returns at once; its
 # last step takes away the uninstall entry.
 wine "$install_unix/Uninstall.exe" /S </dev/null || fail "the uninstaller returned $?"
-for _ in $(seq 60); do reg_key_exists "$uninstall_key" || break; sleep 0.5; done
-! reg_key_exists "$uninstall_key" || fail "the uninstall entry stayed"
+within 120 eval '! reg_key_exists "$uninstall_key"' || fail "the uninstall entry stayed"
 [ ! -e "$install_unix" ] || fail "left behind: $(ls -A "$install_unix" | xargs)"
 [ ! -e "$shortcut" ] || fail "the Start-menu entry stayed"
 ! reg_key_exists "$verb_key" || fail "the context-menu entry stayed"

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "platform/CommonDialogText.h"
-#include "platform/FileSystem.h"
 #include "platform/IconFile.h"
 #include "platform/IconFileShape.h"
 #include "platform/IniFile.h"
@@ -32,8 +31,6 @@ TEST(IniFile, ValuesRoundTripAndMissingOnesAreEmpty) {
   EXPECT_EQ(platform::ReadIniValue("S", "K", file), "");
   EXPECT_TRUE(platform::WriteIniValue("S", "K", "  spaced value ", file));
   EXPECT_EQ(platform::ReadIniValue("s", "k", file), "spaced value") << "names ignore case";
-  WriteWholeFile(file, "[S]\r\nLong=" + std::string(40000, 'y') + "\r\n");
-  EXPECT_EQ(platform::ReadIniValue("S", "Long", file).size(), 29999u);
 }
 
 TEST(ResourceLibrary, StringsAreCutAndMissingOnesRecorded) {
@@ -203,16 +200,6 @@ TEST(TextRules, HowPeoplesTextIsRead) {
               {"2147483647", INT32_MAX}, {"2147483648", {}}, {"1x", {}},
               {"", {}},               {"0x10", {}},        {"1.5", {}}};
   for (const Row& row : rows) EXPECT_EQ(platform::ToWholeNumber(row.text), row.number) << row.text;
-}
-
-TEST(FileSystem, WildcardsMatchAndFoldersAreTold) {
-  ScratchFolder folder;
-  WriteWholeFile(folder / "a.ico", "x");
-  EXPECT_TRUE(platform::FileExists(folder / "*.ico"));
-  EXPECT_FALSE(platform::FileExists(folder / "*.dll"));
-  EXPECT_TRUE(platform::FolderExists(folder.Path()));
-  EXPECT_FALSE(platform::FolderExists(folder.Path() + "\\"));
-  EXPECT_FALSE(platform::FolderExists(folder / "a.ico"));
 }
 
 }  // namespace

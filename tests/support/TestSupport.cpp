@@ -10,14 +10,6 @@
 
 namespace testing_support {
 
-namespace {
-std::string FullPath(const std::string& path) {
-  char buffer[MAX_PATH * 4] = {};
-  const DWORD length = ::GetFullPathNameA(path.c_str(), sizeof buffer, buffer, nullptr);
-  return length ? std::string(buffer, length) : path;
-}
-}  // namespace
-
 std::string TestFolder() {
   char buffer[MAX_PATH * 4] = {};
   const std::string path(buffer, ::GetModuleFileNameA(nullptr, buffer, sizeof buffer));
@@ -25,7 +17,7 @@ std::string TestFolder() {
 }
 
 std::string DistFolder() {
-  return FullPath(TestFolder() + "..\\dist") + "\\";
+  return TestFolder() + "..\\dist\\";
 }
 
 std::string ReadWholeFile(const std::string& path) {
@@ -63,19 +55,13 @@ void DeleteTree(const std::string& path) {
 }
 
 ScratchFolder::ScratchFolder() {
-  char temp[MAX_PATH] = {};
+  char temp[MAX_PATH] = {}, name[MAX_PATH] = {};
   ::GetTempPathA(MAX_PATH, temp);
-  static unsigned serial = 0;
-  for (;;) {
-    const std::string candidate = std::string(temp) + "morvane-test-" +
-                                  std::to_string(::GetCurrentProcessId()) + "-" +
-                                  std::to_string(++serial);
-    if (::CreateDirectoryA(candidate.c_str(), nullptr)) {
-      path_ = FullPath(candidate);
-      return;
-    }
-    if (::GetLastError() != ERROR_ALREADY_EXISTS) throw std::runtime_error("no scratch folder");
-  }
+  // A unique name, taken as a file and turned into a folder.
+  ::GetTempFileNameA(temp, "mvt", 0, name);
+  ::DeleteFileA(name);
+  if (!::CreateDirectoryA(name, nullptr)) throw std::runtime_error("no scratch folder");
+  path_ = name;
 }
 
 DibSurface::DibSurface(int width, int height, COLORREF fill)

@@ -74,15 +74,6 @@ TEST_F(DrawingTest, RaisedAndSunkenFramesOnTheControlItself) {
   EXPECT_EQ(FaceRows().find_first_not_of(".\n"), std::string::npos) << "inches draw nothing";
 }
 
-TEST_F(DrawingTest, FramesAroundTheControlKeepTheirDistance) {
-  ui::DrawBevel(*canvas_.face, 2, 1, ui::Bevel::kRaised, false);
-  EXPECT_NE(FormPixel(39, 39), kWhite) << "distance 1 leaves the ring next to the edge";
-  EXPECT_EQ(FormPixel(38, 38), kWhite);
-  EXPECT_EQ(FormPixel(37, 37), kWhite);
-  EXPECT_EQ(FormPixel(51, 47), kGrey);
-  EXPECT_EQ(FormPixel(52, 48), kGrey);
-}
-
 TEST_F(DrawingTest, EtchedLinesDrawInTwipsAndConvertTheCallersPixels) {
   canvas_.face->SetVisible(false);
   float x1 = 0, y1 = 42, x2 = 300, y2 = 42;

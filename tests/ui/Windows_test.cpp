@@ -75,16 +75,6 @@ TEST_F(SkinnedButtonTest, MainWindowButtonRisesSinksAndStaysSunkUntilItsFaceIsRe
   EXPECT_EQ(Frame(), "wwwgwg.");
 }
 
-TEST_F(SkinnedButtonTest, AboutWindowButtonRisesOnReleaseAndActsOnAnyPress) {
-  ui::SkinnedButton button(*form_.face, {true, [this] { log_.push_back("web page"); }, nullptr});
-  button.ResetFace(*form_.back);
-  Send(WM_RBUTTONDOWN, MK_RBUTTON);
-  EXPECT_EQ(Frame(), "gwwwgw.");
-  Send(WM_RBUTTONUP);
-  EXPECT_EQ(Frame(), "wwwgwg.");
-  EXPECT_EQ(log_, (std::vector<std::string>{"web page"}));
-}
-
 // Wine keeps a font added by one process out of the others' font lists, so
 // only this process can see it come and go. Asking for the face before it
 // is installed would make Wine remember its substitute, so the font list is
