@@ -140,10 +140,6 @@ TEST(IconBrowserTexts, StatusSaysHowManyIconsAndProgressSaysWhere) {
   EXPECT_EQ(core::StatusText(2, "icons", "1 icon or none"), "2 icons");
   EXPECT_EQ(core::StatusText(1234, "icons", "few"), "1234 icons");
   EXPECT_EQ(core::ProgressText("Loading", 7, 120), "Loading 7/120");
-  core::IconBrowser browser;
-  EXPECT_EQ(browser.ChooserFolder("c:\\program"), "c:\\program");
-  browser.RememberChosenFile("d:\\art\\set.dll");
-  EXPECT_EQ(browser.ChooserFolder("c:\\program"), "d:\\art");
 }
 
 TEST(DefaultFolderIcon, LocationsSplitAtTheFirstComma) {

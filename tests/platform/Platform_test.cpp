@@ -4,7 +4,6 @@
 
 #include "platform/CommonDialogText.h"
 #include "platform/IconFile.h"
-#include "platform/IconFileShape.h"
 #include "platform/IniFile.h"
 #include "platform/Registry.h"
 #include "platform/ResourceLibrary.h"
@@ -45,7 +44,7 @@ TEST(ResourceLibrary, StringsAreCutAndMissingOnesRecorded) {
   EXPECT_EQ(Failure(library), "326 String resource with identifier 13 not found.");
 }
 
-TEST(ResourceLibrary, DataTravelsByteForByteAndIsSavedOnlyWhereAllowed) {
+TEST(ResourceLibrary, DataTravelsByteForByte) {
   platform::ResourceLibrary library;
   library.Open(TestFolder() + "TESTRES.DLL");
   EXPECT_EQ(library.Data(TEST_BLOB), kBlob);
@@ -53,13 +52,6 @@ TEST(ResourceLibrary, DataTravelsByteForByteAndIsSavedOnlyWhereAllowed) {
   EXPECT_EQ(library.LastError().number, 0) << "an empty resource is no error";
   EXPECT_EQ(library.Data(6999), "");
   EXPECT_EQ(Failure(library), "326 Custom resource with identifier 6999 not found.");
-  ScratchFolder folder;
-  const std::string path = folder / "saved.bin";
-  WriteWholeFile(path, "user data");
-  EXPECT_EQ(library.SaveData(TEST_BLOB, path, "CUSTOM", false), platform::kErrFileExists);
-  EXPECT_EQ(ReadWholeFile(path), "user data");
-  EXPECT_EQ(library.SaveData(TEST_BLOB, path, "CUSTOM", true), 0);
-  EXPECT_EQ(ReadWholeFile(path), kBlob);
 }
 
 TEST(ResourceLibrary, PicturesOwnTheirHandlesAndUnknownOnesAreNone) {
@@ -126,29 +118,6 @@ TEST(IconFile, CountsAndExtractsWhatTheFileHolds) {
   ::DeleteObject(info.hbmColor);
   ::DeleteObject(info.hbmMask);
   platform::ReleaseIcon(icon);
-}
-
-TEST(IconFileShape, TablesThatOutrunTheFileAreDamaged) {
-  ScratchFolder folder;
-  const std::string icon = ReadWholeFile(TestFolder() + "icons.ico");
-  const std::string library = ReadWholeFile(TestFolder() + "ICONS120.DLL");
-  std::string many = icon;
-  many[4] = many[5] = '\xFF';
-  struct Row {
-    const char* name;
-    std::string bytes;
-    bool intact;
-  } rows[] = {{"whole.ico", icon, true},
-              {"whole.dll", library, true},
-              {"many.ico", many, false},
-              {"cut.ico", icon.substr(0, icon.size() - 10), false},
-              {"cut.dll", library.substr(0, library.size() / 2), false},
-              {"text.txt", "plain text", true}};
-  for (const Row& row : rows) {
-    WriteWholeFile(folder / row.name, row.bytes);
-    EXPECT_EQ(platform::IconSourceIsIntact(folder / row.name), row.intact) << row.name;
-  }
-  EXPECT_TRUE(platform::IconSourceIsIntact(folder / "missing.dll"));
 }
 
 TEST(Registry, TextsAndNumbersRoundTripAndOtherKindsAreLeftAlone) {

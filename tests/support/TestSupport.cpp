@@ -2,8 +2,6 @@
 
 #include <shlobj.h>
 
-#include <algorithm>
-#include <chrono>
 #include <fstream>
 #include <sstream>
 #include <stdexcept>
@@ -105,25 +103,6 @@ std::vector<COLORREF> ReadPixels(HBITMAP bitmap, int& width) {
   }
   width = shape.bmWidth;
   return pixels;
-}
-
-std::string WindowText(HWND window) {
-  char text[1024] = {};
-  return std::string(text, std::max(0, ::GetWindowTextA(window, text, sizeof text)));
-}
-
-bool PumpUntil(const std::function<bool()>& done, int limitMs) {
-  const auto deadline = std::chrono::steady_clock::now() + std::chrono::milliseconds(limitMs);
-  for (;;) {
-    MSG message;
-    while (::PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
-      ::TranslateMessage(&message);
-      ::DispatchMessageA(&message);
-    }
-    if (done()) return true;
-    if (std::chrono::steady_clock::now() >= deadline) return false;
-    ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 10, QS_ALLINPUT);
-  }
 }
 
 void RecordingNotifier::Notify(LONG event, UINT flags, const void* item1, const void*) {

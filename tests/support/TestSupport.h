@@ -1,10 +1,9 @@
 // What the unit tests share: where the built files are, scratch folders that
-// clean up after themselves, pixels read through a 32-bit DIB, a deadline
-// for waiting on messages, and a shell notifier that records instead.
+// clean up after themselves, pixels read through a 32-bit DIB, and a shell
+// notifier that records instead.
 #pragma once
 #include <windows.h>
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <vector>
 #include "platform/ShellNotifier.h"
@@ -53,11 +52,6 @@ class DibSurface {
 
 // The colours of a bitmap, row by row from the top; empty when it cannot be read.
 std::vector<COLORREF> ReadPixels(HBITMAP bitmap, int& width);
-
-std::string WindowText(HWND window);
-
-// Lets messages run until `done` holds or `limitMs` passes; true when it held.
-bool PumpUntil(const std::function<bool()>& done, int limitMs = 5000);
 
 struct Notification {
   LONG event;
