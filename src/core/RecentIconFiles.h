@@ -19,8 +19,9 @@ class RecentIconFiles {
 
   // Reads the list from the file; missing keys give empty entries.
   void Load();
-  // Puts `path` on top unless it is listed already, and saves the list. An
-  // empty path is saved as the top entry alone.
+  // Puts `path` on top unless it is listed already (an empty path is, while
+  // the list has an empty slot), and saves the list; an empty path that goes
+  // on top is saved as the top entry alone.
   void Remember(const std::string& path);
 
   const Entries& List() const { return entries_; }
