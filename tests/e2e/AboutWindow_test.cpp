@@ -23,7 +23,7 @@ std::vector<std::string> Requests(const std::string& log) {
   return lines;
 }
 
-TEST(AboutWindow, OpensFromTheHelpLinkItsButtonsAskForTheirPagesAndOkCloses) {
+TEST(AboutWindow, OpensFromTheHelpLinkAndItsButtonsAskForTheirPages) {
   RegistryValue handler(HKEY_CLASSES_ROOT, "http\\shell\\open\\command",
                         "\"" + TestFolder() + "url_recorder.exe\" \"%1\"");
   ProgramRun run;
@@ -63,8 +63,15 @@ TEST(AboutWindow, OpensFromTheHelpLinkItsButtonsAskForTheirPagesAndOkCloses) {
     clients.push_back(parts[1]);
   }
   EXPECT_NE(clients[1], clients[3]) << "two presses, two client parameters";
+}
 
-  EXPECT_TRUE(::IsWindowVisible(about));
+TEST(AboutWindow, OkClosesItAndTheMainWindowGoesOn) {
+  ProgramRun run;
+  ASSERT_TRUE(run.Open());
+  Click(run.main, kHelpLink);
+  HWND about = run.WaitForWindow("MorvaneForm", "frmSplash");
+  ASSERT_NE(about, nullptr);
+  HWND ok = ::GetDlgItem(about, ids::kAboutOk);
   Click(ok, Centre(ok));
   EXPECT_TRUE(WaitUntil([&] { return !::IsWindow(about) || !::IsWindowVisible(about); }));
   EXPECT_TRUE(run.Close());
