@@ -3,6 +3,8 @@
 // recorder registered for the scheme in the test prefix.
 #include <gtest/gtest.h>
 
+#include <cstring>
+#include <memory>
 #include <regex>
 
 #include "Harness.h"
@@ -24,8 +26,16 @@ std::vector<std::string> Requests(const std::string& log) {
 }
 
 TEST(AboutWindow, OpensFromTheHelpLinkAndItsButtonsAskForTheirPages) {
-  RegistryValue handler(HKEY_CLASSES_ROOT, "http\\shell\\open\\command",
-                        "\"" + TestFolder() + "url_recorder.exe\" \"%1\"");
+  constexpr char kHandler[] = "http\\shell\\open\\command";
+  char old[1024] = {};
+  DWORD size = sizeof old;
+  ::RegGetValueA(HKEY_CLASSES_ROOT, kHandler, nullptr, RRF_RT_REG_SZ, nullptr, old, &size);
+  const std::shared_ptr<void> restore(nullptr, [&](void*) {
+    ::RegSetKeyValueA(HKEY_CLASSES_ROOT, kHandler, nullptr, REG_SZ, old, std::strlen(old) + 1);
+  });
+  const std::string recorder = "\"" + TestFolder() + "url_recorder.exe\" \"%1\"";
+  ::RegSetKeyValueA(HKEY_CLASSES_ROOT, kHandler, nullptr, REG_SZ, recorder.c_str(),
+                    recorder.size() + 1);
   ProgramRun run;
   const std::string log = run.Root() + "\\requests.txt";
   // Morvane, and through the shell the recorder, inherit it.
@@ -34,9 +44,9 @@ TEST(AboutWindow, OpensFromTheHelpLinkAndItsButtonsAskForTheirPages) {
   Click(run.main, kHelpLink);
   HWND about = run.WaitForWindow("MorvaneForm", "frmSplash");
   ASSERT_NE(about, nullptr);
-  for (int button : {ids::kUpdate, ids::kWebPage, ids::kHelp, ids::kAboutOk})
+  for (int button : {ids::kUpdate, ids::kWebPage, ids::kHelp, ids::kOk})
     EXPECT_TRUE(::IsWindowVisible(::GetDlgItem(about, button))) << button;
-  HWND ok = ::GetDlgItem(about, ids::kAboutOk);
+  HWND ok = ::GetDlgItem(about, ids::kOk);
   Click(ok, Centre(ok), true);  // only a left click closes; the presses below prove it open
 
   const std::regex address(
@@ -71,7 +81,7 @@ TEST(AboutWindow, OkClosesItAndTheMainWindowGoesOn) {
   Click(run.main, kHelpLink);
   HWND about = run.WaitForWindow("MorvaneForm", "frmSplash");
   ASSERT_NE(about, nullptr);
-  HWND ok = ::GetDlgItem(about, ids::kAboutOk);
+  HWND ok = ::GetDlgItem(about, ids::kOk);
   Click(ok, Centre(ok));
   EXPECT_TRUE(WaitUntil([&] { return !::IsWindow(about) || !::IsWindowVisible(about); }));
   EXPECT_TRUE(run.Close());
