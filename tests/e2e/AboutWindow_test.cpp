@@ -51,7 +51,8 @@ TEST(AboutWindow, OpensFromTheHelpLinkAndItsButtonsAskForTheirPages) {
 
   const std::regex address(
       "http://www\\.morvane\\.example/cgi-bin/morvane/redir\\.cgi\\?redir=([^&]*)&url=([0-9]+)"
-      "&lang=" + LibraryString(run.File("LANG_ENG.DLL"), IDS_LANGUAGE_CODE));
+      "&lang=" +
+      LibraryString(run.File("LANG_ENG.DLL"), IDS_LANGUAGE_CODE));
   struct Press {
     int button;
     bool rightButton;

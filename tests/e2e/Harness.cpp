@@ -177,7 +177,9 @@ void Type(const std::string& text) {
   for (char c : text) SendKey(0, static_cast<unsigned char>(c), KEYEVENTF_UNICODE);
 }
 
-void PressKey(WORD virtualKey) { SendKey(virtualKey, 0, 0); }
+void PressKey(WORD virtualKey) {
+  SendKey(virtualKey, 0, 0);
+}
 
 POINT Centre(HWND window) {
   RECT client{};
@@ -233,7 +235,8 @@ std::string ProgramRun::Changes(const std::vector<std::string>& allowed) const {
   for (const auto* list : {&before_, &after}) {
     for (const auto& [path, bytes] : *list) {
       const auto& other = list == &before_ ? after : before_;
-      const bool same = std::find(other.begin(), other.end(), std::pair(path, bytes)) != other.end();
+      const bool same =
+          std::find(other.begin(), other.end(), std::pair(path, bytes)) != other.end();
       const std::string relative = path.substr(root_.size() + 1);
       bool mayChange = false;
       for (const std::string& prefix : allowed) mayChange |= relative.rfind(prefix, 0) == 0;

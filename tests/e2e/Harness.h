@@ -86,7 +86,9 @@ class ProgramRun {
   HWND WaitForDialog() const { return WaitForWindow("#32770"); }
   std::vector<HWND> Windows() const;
   bool HasEnded() const { return ::WaitForSingleObject(process_.hProcess, 0) == WAIT_OBJECT_0; }
-  bool Ended() const { return WaitUntil([&] { return HasEnded(); }); }
+  bool Ended() const {
+    return WaitUntil([&] { return HasEnded(); });
+  }
   DWORD ExitCode() const;
   bool Close();  // true when the process ended
 
