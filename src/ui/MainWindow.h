@@ -115,6 +115,8 @@ class MainWindow : public toolkit::Form {
 
   // Texts fetched once at set-up and kept for the run.
   std::string applyCaption_, loadingText_, fewIconsText_, iconCountText_;
+  // The progress text the status strip shows while icons load.
+  std::string shownProgress_;
 };
 
 }  // namespace ui

@@ -5,8 +5,6 @@
 #include <commctrl.h>
 #include <commdlg.h>
 
-#include <algorithm>
-
 #include "core/DefaultFolderIcon.h"
 #include "core/FolderCustomisation.h"
 #include "platform/CommonDialog.h"
@@ -33,7 +31,8 @@ constexpr std::int32_t kChooserFlags =
 void MainWindow::ShowProgress(int position, int count, const platform::Picture& background) {
   // Giving the strip its picture clears it.
   statusStrip_->SetPicture(background);
-  DrawCaption(*statusStrip_, core::ProgressText(loadingText_, position, count), WindowText::kLeave);
+  shownProgress_ = core::ProgressText(loadingText_, position, count);
+  DrawCaption(*statusStrip_, shownProgress_, WindowText::kLeave);
   statusStrip_->Refresh();
 }
 
@@ -98,10 +97,7 @@ void MainWindow::LoadIcons() {
   browser_.SetLoading(false);
   platform::ReleaseIcon(icon);
   // The strip's window text catches up with the last progress it shows.
-  if (statusStrip_->Hwnd()) {
-    ::SetWindowTextA(statusStrip_->Hwnd(),
-                     core::ProgressText(loadingText_, std::min(i, count), count).c_str());
-  }
+  if (statusStrip_->Hwnd()) ::SetWindowTextA(statusStrip_->Hwnd(), shownProgress_.c_str());
 
   iconList_->SetIcons(iconImages_);
   ListIcons(count);
