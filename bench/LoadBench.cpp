@@ -32,13 +32,12 @@ void DestroyAll(const std::vector<HICON>& icons) {
 
 }  // namespace
 
-MainWindowRun& OpenMainWindow(const std::string& programFolder,
-                              const std::string& targetFolder) {
+MainWindowRun& OpenMainWindow(const std::string& programFolder, const std::string& targetFolder) {
   auto* run = new MainWindowRun;
   run->pictures.Open(programFolder + kPictureLibrary);
   run->language.Open(programFolder + kLanguageLibrary);
-  run->context.emplace(ui::WindowContext{run->language, run->pictures, programFolder,
-                                         targetFolder, RECT{}});
+  run->context.emplace(
+      ui::WindowContext{run->language, run->pictures, programFolder, targetFolder, RECT{}});
   run->about = std::make_unique<ui::AboutWindow>(*run->context);
   // As the program's own end: the close sequence ends the process.
   run->window = std::make_unique<ui::MainWindow>(*run->context, run->settings, false, *run->about,

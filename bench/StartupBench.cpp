@@ -7,8 +7,8 @@
 #include <chrono>
 #include <functional>
 
-#include "Clock.h"
 #include "BenchSupport.h"
+#include "Clock.h"
 #include "ui/ControlIds.h"
 
 namespace bench {

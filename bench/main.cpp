@@ -18,13 +18,13 @@
 #include <string>
 #include <vector>
 
+#include "BenchSupport.h"
 #include "Clock.h"
 #include "ExitWatch.h"
+#include "GuiObjects.h"
 #include "LoadBench.h"
 #include "StartupBench.h"
 #include "platform/IconFile.h"
-#include "GuiObjects.h"
-#include "BenchSupport.h"
 
 namespace {
 

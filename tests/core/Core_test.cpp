@@ -161,8 +161,8 @@ TEST(DefaultFolderIcon, LocationsSplitAtTheFirstComma) {
   HKEY key = nullptr;
   ASSERT_EQ(::RegCreateKeyA(place.hive, place.keyName.c_str(), &key), ERROR_SUCCESS);
   const char location[] = "c:\\icons\\f.dll,-7";
-  ::RegSetValueExA(key, place.valueName.c_str(), 0, REG_SZ,
-                   reinterpret_cast<const BYTE*>(location), sizeof location);
+  ::RegSetValueExA(key, place.valueName.c_str(), 0, REG_SZ, reinterpret_cast<const BYTE*>(location),
+                   sizeof location);
   EXPECT_EQ(core::DefaultFolderIcon(), (core::IconLocation{"c:\\icons\\f.dll", -7}));
   ::RegDeleteValueA(key, place.valueName.c_str());
   ::RegCloseKey(key);

@@ -5,7 +5,6 @@
 #include "platform/CommonDialogText.h"
 #include "platform/IconFile.h"
 #include "platform/IniFile.h"
-#include "platform/Registry.h"
 #include "platform/ResourceLibrary.h"
 #include "platform/TextRules.h"
 #include "support/TestSupport.h"
@@ -97,8 +96,8 @@ TEST(IconFile, CountsAndExtractsWhatTheFileHolds) {
   struct Row {
     const char* file;
     int count;
-  } rows[] = {{"icons.ico", 1},   {"ICONS120.DLL", 120}, {"NOICONS.DLL", 0},
-              {"notes.txt", 0},   {"missing.ico", 0},    {"", 0}};
+  } rows[] = {{"icons.ico", 1}, {"ICONS120.DLL", 120}, {"NOICONS.DLL", 0},
+              {"notes.txt", 0}, {"missing.ico", 0},    {"", 0}};
   for (const Row& row : rows) {
     const platform::IconFile icons(row.file[0] ? TestFolder() + row.file : "");
     EXPECT_EQ(icons.Count(), row.count) << row.file;
@@ -118,31 +117,6 @@ TEST(IconFile, CountsAndExtractsWhatTheFileHolds) {
   ::DeleteObject(info.hbmColor);
   ::DeleteObject(info.hbmMask);
   platform::ReleaseIcon(icon);
-}
-
-TEST(Registry, TextsAndNumbersRoundTripAndOtherKindsAreLeftAlone) {
-  const std::string key = "Software\\MorvaneTests";
-  HKEY created = nullptr;
-  ASSERT_EQ(::RegCreateKeyA(HKEY_CURRENT_USER, key.c_str(), &created), ERROR_SUCCESS);
-  platform::SetRegistryValue(HKEY_CURRENT_USER, key, "Text", std::string("abc"),
-                             platform::kTextKind);
-  platform::SetRegistryValue(HKEY_CURRENT_USER, key, "Number", DWORD{42}, platform::kNumberKind);
-  ::RegSetValueExA(created, "Binary", 0, REG_BINARY, reinterpret_cast<const BYTE*>("xy"), 2);
-  ::RegSetValueExA(created, "System", 0, REG_SZ, reinterpret_cast<const BYTE*>("xyz"), 4);
-  EXPECT_EQ(platform::GetRegistryValue(HKEY_CURRENT_USER, key, "Text"),
-            platform::RegistryValue(std::string("abc")));
-  EXPECT_EQ(platform::GetRegistryValue(HKEY_CURRENT_USER, key, "System"),
-            platform::RegistryValue(std::string("xyz\0", 4)));
-  EXPECT_EQ(platform::RegistryText(platform::GetRegistryValue(HKEY_CURRENT_USER, key, "Number")),
-            "42");
-  platform::RegistryValue untouched = DWORD{7};
-  EXPECT_EQ(platform::ReadRegistryValue(created, "Binary", untouched), platform::kUnhandledKind);
-  EXPECT_EQ(untouched, platform::RegistryValue(DWORD{7}));
-  platform::SetRegistryValue(HKEY_CURRENT_USER, key + "\\Missing", "X", DWORD{1},
-                             platform::kNumberKind);
-  EXPECT_EQ(::RegDeleteKeyA(HKEY_CURRENT_USER, (key + "\\Missing").c_str()), ERROR_FILE_NOT_FOUND);
-  ::RegCloseKey(created);
-  ::RegDeleteKeyA(HKEY_CURRENT_USER, key.c_str());
 }
 
 TEST(CommonDialogText, ConversionsForTheDialogRecords) {
@@ -165,9 +139,9 @@ TEST(TextRules, HowPeoplesTextIsRead) {
   struct Row {
     const char* text;
     std::optional<std::int32_t> number;
-  } rows[] = {{" 42 ", 42},           {"-7", -7},          {"+3", 3},
-              {"2147483647", INT32_MAX}, {"2147483648", {}}, {"1x", {}},
-              {"", {}},               {"0x10", {}},        {"1.5", {}}};
+  } rows[] = {{" 42 ", 42},       {"-7", -7}, {"+3", 3}, {"2147483647", INT32_MAX},
+              {"2147483648", {}}, {"1x", {}}, {"", {}},  {"0x10", {}},
+              {"1.5", {}}};
   for (const Row& row : rows) EXPECT_EQ(platform::ToWholeNumber(row.text), row.number) << row.text;
 }
 

@@ -5,7 +5,6 @@
 #include "support/TestSupport.h"
 #include "toolkit/Form.h"
 #include "toolkit/MessageLoop.h"
-#include "toolkit/WaitCursor.h"
 
 namespace {
 
@@ -111,22 +110,6 @@ TEST_F(ToolkitTest, ImageListsKeepCopiesAndListsFilledInABatchAreShown) {
   ASSERT_TRUE(::GetScrollInfo(form_.list->Hwnd(), SB_VERT, &scroll));
   EXPECT_GT(scroll.nMax - scroll.nMin + 1, static_cast<int>(scroll.nPage))
       << "redrawing came back on after the batch";
-}
-
-TEST(WaitCursor, NestedPointersEachRestoreWhatTheyFound) {
-  toolkit::SetProgramPointer(toolkit::kPointerDefault);
-  {
-    toolkit::WaitCursor outer;
-    outer.SetPointer();
-    {
-      toolkit::WaitCursor inner;
-      inner.SetPointer(toolkit::kPointerCross);
-      EXPECT_THROW(inner.SetPointer(70000), std::overflow_error);
-      EXPECT_EQ(toolkit::ProgramPointer(), toolkit::kPointerCross);
-    }
-    EXPECT_EQ(toolkit::ProgramPointer(), toolkit::kPointerHourglass);
-  }
-  EXPECT_EQ(toolkit::ProgramPointer(), toolkit::kPointerDefault);
 }
 
 }  // namespace

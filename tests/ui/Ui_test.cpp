@@ -1,13 +1,12 @@
 // The drawing routines and the skinned buttons' frames, checked pixel by
 // pixel on 32-bit images (picture surfaces' persistent images, DIB sections,
-// a form's screen), and the program's own font, seen from inside the process.
+// a form's screen).
 #include <gtest/gtest.h>
 
 #include "support/TestSupport.h"
 #include "toolkit/Form.h"
 #include "toolkit/MessageLoop.h"
 #include "ui/Drawing.h"
-#include "ui/ProgramFont.h"
 #include "ui/SkinnedButton.h"
 
 namespace {
@@ -29,10 +28,12 @@ class Canvas : public toolkit::Form {
 
  protected:
   void CreateElements() override {
-    face = &AddPictureBox("picFace", {PixelsToTwipsX(40), PixelsToTwipsY(40), PixelsToTwipsX(10),
-                                      PixelsToTwipsY(6)}, 20);
-    wide = &AddPictureBox("picWide", {PixelsToTwipsX(100), PixelsToTwipsY(40),
-                                      PixelsToTwipsX(60), PixelsToTwipsY(24)}, 21);
+    face = &AddPictureBox(
+        "picFace", {PixelsToTwipsX(40), PixelsToTwipsY(40), PixelsToTwipsX(10), PixelsToTwipsY(6)},
+        20);
+    wide = &AddPictureBox(
+        "picWide",
+        {PixelsToTwipsX(100), PixelsToTwipsY(40), PixelsToTwipsX(60), PixelsToTwipsY(24)}, 21);
     for (auto* box : {face, wide}) {
       box->SetBackColor(kBack);
       box->SetAutoRedraw(true);
@@ -52,8 +53,8 @@ class DrawingTest : public ::testing::Test {
   // The face row by row: '.' back colour, 'g' grey, 'w' white.
   std::string FaceRows() const {
     int width = 0;
-    const auto pixels = testing_support::ReadPixels(
-        static_cast<HBITMAP>(canvas_.face->Image().Handle()), width);
+    const auto pixels =
+        testing_support::ReadPixels(static_cast<HBITMAP>(canvas_.face->Image().Handle()), width);
     std::string rows;
     for (std::size_t i = 0; i < pixels.size(); ++i) {
       rows += pixels[i] == kBack ? '.' : pixels[i] == kGrey ? 'g' : pixels[i] == kWhite ? 'w' : '?';
@@ -71,10 +72,6 @@ TEST_F(DrawingTest, RaisedAndSunkenFramesOnTheControlItself) {
   canvas_.face->Cls();
   ui::DrawBevel(*canvas_.face, 1, 0, ui::Bevel::kSunken, true);
   EXPECT_EQ(FaceRows(), "gggggggggw\ng........w\ng........w\ng........w\ng........w\nwwwwwwwwww\n");
-  canvas_.SetScaleMode(toolkit::ScaleMode::kInches);
-  canvas_.face->Cls();
-  ui::DrawBevel(*canvas_.face, 1, 0, ui::Bevel::kRaised, true);
-  EXPECT_EQ(FaceRows().find_first_not_of(".\n"), std::string::npos) << "inches draw nothing";
 }
 
 TEST_F(DrawingTest, EtchedLinesDrawInTwipsAndConvertTheCallersPixels) {
@@ -91,8 +88,8 @@ TEST_F(DrawingTest, EtchedLinesDrawInTwipsAndConvertTheCallersPixels) {
 TEST_F(DrawingTest, CaptionsAreOneCentredLineBelowTheTopMargin) {
   ui::DrawCaption(*canvas_.wide, "A caption far too wide for this little face");
   int width = 0;
-  const auto pixels = testing_support::ReadPixels(
-      static_cast<HBITMAP>(canvas_.wide->Image().Handle()), width);
+  const auto pixels =
+      testing_support::ReadPixels(static_cast<HBITMAP>(canvas_.wide->Image().Handle()), width);
   int inked = 0, aboveMargin = 0;
   for (std::size_t i = 0; i < pixels.size(); ++i) {
     if (pixels[i] == kBack) continue;
@@ -159,8 +156,9 @@ class ButtonForm : public toolkit::Form {
  protected:
   void CreateElements() override {
     back = &AddPictureBox("picBack", {0, 0, PixelsToTwipsX(200), PixelsToTwipsY(40)}, 30);
-    face = &AddPictureBox("picAplicar", {PixelsToTwipsX(20), PixelsToTwipsY(60),
-                                         PixelsToTwipsX(80), PixelsToTwipsY(25)}, 31);
+    face = &AddPictureBox(
+        "picAplicar",
+        {PixelsToTwipsX(20), PixelsToTwipsY(60), PixelsToTwipsX(80), PixelsToTwipsY(25)}, 31);
     back->SetAutoRedraw(true);
     back->SetBackColor(kSkin);
     face->SetAutoRedraw(true);
@@ -177,13 +175,16 @@ class SkinnedButtonTest : public ::testing::Test {
   // Corners and edge middles of the face: 'w' white, 'g' grey, '.' skin.
   std::string Frame() const {
     int width = 0;
-    const auto pixels = testing_support::ReadPixels(
-        static_cast<HBITMAP>(form_.face->Image().Handle()), width);
+    const auto pixels =
+        testing_support::ReadPixels(static_cast<HBITMAP>(form_.face->Image().Handle()), width);
     std::string seen;
     for (POINT p : {POINT{0, 0}, POINT{79, 0}, POINT{0, 24}, POINT{79, 24}, POINT{40, 0},
                     POINT{40, 24}, POINT{40, 12}}) {
       const COLORREF c = pixels[p.y * width + p.x];
-      seen += c == ui::kHighlightColour ? 'w' : c == ui::kShadowColour ? 'g' : c == kSkin ? '.' : '?';
+      seen += c == ui::kHighlightColour ? 'w'
+              : c == ui::kShadowColour  ? 'g'
+              : c == kSkin              ? '.'
+                                        : '?';
     }
     return seen;
   }
@@ -208,44 +209,6 @@ TEST_F(SkinnedButtonTest, MainWindowButtonRisesSinksAndStaysSunkUntilItsFaceIsRe
   button.ResetFace(*form_.back);
   Send(WM_MOUSEMOVE);
   EXPECT_EQ(Frame(), "wwwgwg.");
-}
-
-// Wine keeps a font added by one process out of the others' font lists, so
-// only this process can see it come and go. Asking for the face before it
-// is installed would make Wine remember its substitute, so the font list is
-// consulted instead.
-TEST(ProgramFont, IsInTheFontListAndBesideTheProgramUntilRemoved) {
-  auto faceListed = [] {
-    LOGFONTA wanted{};
-    wanted.lfCharSet = DEFAULT_CHARSET;
-    lstrcpynA(wanted.lfFaceName, ui::kProgramFontFace, LF_FACESIZE);
-    bool found = false;
-    platform::WindowDC screen(nullptr);
-    ::EnumFontFamiliesExA(
-        screen.get(), &wanted,
-        [](const LOGFONTA*, const TEXTMETRICA*, DWORD, LPARAM data) -> int {
-          return *reinterpret_cast<bool*>(data) = true, 0;
-        },
-        reinterpret_cast<LPARAM>(&found), 0);
-    return found;
-  };
-  toolkit::Form form("frmFontHost", 1500, 1500);
-  form.Load();
-  platform::ResourceLibrary pictures;
-  pictures.Open(testing_support::DistFolder() + "Resource.DLL");
-  testing_support::ScratchFolder folder;
-  const std::string program = folder.Path() + "\\";
-  const std::string fontFile = folder / ui::kProgramFontFile;
-  ASSERT_FALSE(faceListed());
-  EXPECT_TRUE(ui::InstallProgramFont(form, program, pictures));
-  EXPECT_TRUE(faceListed());
-  EXPECT_EQ(form.FontName(), ui::kProgramFontFace);
-  EXPECT_NE(::GetFileAttributesA(fontFile.c_str()), INVALID_FILE_ATTRIBUTES);
-  ui::RemoveProgramFont(program);
-  EXPECT_FALSE(faceListed());
-  EXPECT_EQ(::GetFileAttributesA(fontFile.c_str()), INVALID_FILE_ATTRIBUTES);
-  ui::RemoveProgramFont(program);  // a second removal finds nothing and does no harm
-  form.Unload();
 }
 
 }  // namespace

@@ -1,0 +1,315 @@
+#include "Harness.h"
+
+#include <commctrl.h>
+
+#include <fstream>
+#include <functional>
+#include <sstream>
+#include <stdexcept>
+
+namespace e2e {
+namespace {
+
+std::string FullPath(const std::string& path) {
+  char buffer[MAX_PATH * 4] = {};
+  const DWORD length = ::GetFullPathNameA(path.c_str(), sizeof buffer, buffer, nullptr);
+  return std::string(buffer, length);
+}
+
+// Calls `visit` for everything under `folder`, a folder after its contents.
+void Walk(const std::string& folder, const std::function<void(const std::string&, bool)>& visit) {
+  WIN32_FIND_DATAA entry;
+  HANDLE search = ::FindFirstFileA((folder + "\\*").c_str(), &entry);
+  for (bool more = search != INVALID_HANDLE_VALUE; more; more = ::FindNextFileA(search, &entry)) {
+    const std::string name = entry.cFileName, path = folder + "\\" + name;
+    const bool isFolder = entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY;
+    if (name == "." || name == "..") continue;
+    if (isFolder) Walk(path, visit);
+    visit(path, isFolder);
+  }
+  if (search != INVALID_HANDLE_VALUE) ::FindClose(search);
+}
+
+void DeleteTree(const std::string& folder) {
+  Walk(folder, [](const std::string& path, bool isFolder) {
+    ::SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
+    isFolder ? ::RemoveDirectoryA(path.c_str()) : ::DeleteFileA(path.c_str());
+  });
+  ::RemoveDirectoryA(folder.c_str());
+}
+
+// Wine maps absolute input coordinates back as x * width / 65536.
+INPUT MouseAt(POINT screen, DWORD flags) {
+  INPUT input{};
+  input.type = INPUT_MOUSE;
+  const LONG width = ::GetSystemMetrics(SM_CXSCREEN), height = ::GetSystemMetrics(SM_CYSCREEN);
+  input.mi.dx = (screen.x * 65536 + width - 1) / width;
+  input.mi.dy = (screen.y * 65536 + height - 1) / height;
+  input.mi.dwFlags = flags | MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
+  return input;
+}
+
+void SendKey(WORD virtualKey, WORD scan, DWORD flags) {
+  INPUT key[2] = {};
+  for (INPUT& k : key) k.type = INPUT_KEYBOARD, k.ki.wVk = virtualKey, k.ki.wScan = scan;
+  key[0].ki.dwFlags = flags;
+  key[1].ki.dwFlags = flags | KEYEVENTF_KEYUP;
+  ::SendInput(2, key, sizeof(INPUT));
+}
+
+}  // namespace
+
+std::string TestFolder() {
+  char buffer[MAX_PATH * 4] = {};
+  const std::string path(buffer, ::GetModuleFileNameA(nullptr, buffer, sizeof buffer));
+  return path.substr(0, path.find_last_of('\\') + 1);
+}
+
+std::string ReadFile(const std::string& path) {
+  std::ostringstream bytes;
+  bytes << std::ifstream(path, std::ios::binary).rdbuf();
+  return bytes.str();
+}
+
+void WriteFile(const std::string& path, const std::string& bytes) {
+  if (!(std::ofstream(path, std::ios::binary) << bytes)) throw std::runtime_error(path);
+}
+
+bool IsFile(const std::string& path) {
+  const DWORD attributes = ::GetFileAttributesA(path.c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
+}
+
+std::string IniValue(const std::string& file, const char* section, const char* key) {
+  char value[4096] = {};
+  return std::string(
+      value, ::GetPrivateProfileStringA(section, key, "", value, sizeof value, file.c_str()));
+}
+
+std::string LibraryString(const std::string& library, int id) {
+  HMODULE module = ::LoadLibraryExA(library.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
+  char text[4096] = {};
+  const int length = module ? ::LoadStringA(module, id, text, sizeof text) : 0;
+  if (module) ::FreeLibrary(module);
+  return std::string(text, length);
+}
+
+std::string Text(HWND window) {
+  char buffer[4096] = {};
+  return std::string(buffer, std::max(0, ::GetWindowTextA(window, buffer, sizeof buffer)));
+}
+
+std::string ClassOf(HWND window) {
+  char buffer[256] = {};
+  return std::string(buffer, std::max(0, ::GetClassNameA(window, buffer, sizeof buffer)));
+}
+
+std::vector<HWND> TopWindows() {
+  std::vector<HWND> found;
+  for (HWND w = ::GetWindow(::GetDesktopWindow(), GW_CHILD); w; w = ::GetWindow(w, GW_HWNDNEXT))
+    if (::IsWindowVisible(w)) found.push_back(w);
+  return found;
+}
+
+bool CrashWindowShown() {
+  for (HWND window : TopWindows())
+    if (Text(window).rfind("Program Error", 0) == 0) return ::PostMessageA(window, WM_CLOSE, 0, 0);
+  return false;
+}
+
+MessageBoxView Read(HWND box) {
+  MessageBoxView view{Text(box), "", {}, nullptr};
+  for (HWND child = ::GetWindow(box, GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
+    const bool isIcon = (::GetWindowLongA(child, GWL_STYLE) & SS_TYPEMASK) == SS_ICON;
+    if (!::IsWindowVisible(child)) continue;
+    if (ClassOf(child) == "Button") view.buttons.push_back(Text(child));
+    if (ClassOf(child) == "Static" && !isIcon) view.text += Text(child);
+    if (isIcon && ::SendMessageA(child, STM_GETICON, 0, 0)) view.icon = child;
+  }
+  return view;
+}
+
+bool ShowsSystemIcon(HWND icon, LPCSTR which) {
+  RECT place{};
+  ::GetWindowRect(icon, &place);
+  const int size = ::GetSystemMetrics(SM_CXICON);
+  // Drawn here on the background the box shows at its corner.
+  HDC screen = ::GetDC(nullptr), memory = ::CreateCompatibleDC(screen);
+  HBITMAP bitmap = ::CreateCompatibleBitmap(screen, size, size);
+  HGDIOBJ old = ::SelectObject(memory, bitmap);
+  HBRUSH background = ::CreateSolidBrush(::GetPixel(screen, place.left, place.top));
+  const RECT all{0, 0, size, size};
+  ::FillRect(memory, &all, background);
+  ::DrawIconEx(memory, 0, 0, ::LoadIconA(nullptr, which), size, size, 0, nullptr, DI_NORMAL);
+  bool same = true;
+  for (int n = 0; n < size * size && same; ++n)
+    same = ::GetPixel(memory, n % size, n / size) ==
+           ::GetPixel(screen, place.left + n % size, place.top + n / size);
+  ::DeleteObject(::SelectObject(memory, old));
+  ::DeleteObject(background);
+  ::DeleteDC(memory);
+  ::ReleaseDC(nullptr, screen);
+  return same;
+}
+
+void Answer(HWND box, int button) {
+  ::PostMessageA(box, WM_COMMAND, MAKEWPARAM(button, BN_CLICKED),
+                 reinterpret_cast<LPARAM>(::GetDlgItem(box, button)));
+}
+
+void Click(HWND window, POINT at, bool rightButton, int times) {
+  ::ClientToScreen(window, &at);
+  std::vector<INPUT> inputs;
+  for (int n = 0; n < times; ++n) {
+    inputs.push_back(MouseAt(at, rightButton ? MOUSEEVENTF_RIGHTDOWN : MOUSEEVENTF_LEFTDOWN));
+    inputs.push_back(MouseAt(at, rightButton ? MOUSEEVENTF_RIGHTUP : MOUSEEVENTF_LEFTUP));
+  }
+  ::SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+}
+
+void MovePointer(HWND window, POINT at) {
+  if (window) ::ClientToScreen(window, &at);
+  INPUT move = MouseAt(at, 0);
+  ::SendInput(1, &move, sizeof move);
+}
+
+void Type(const std::string& text) {
+  for (char c : text) SendKey(0, static_cast<unsigned char>(c), KEYEVENTF_UNICODE);
+}
+
+void PressKey(WORD virtualKey) {
+  SendKey(virtualKey, 0, 0);
+}
+
+POINT Centre(HWND window) {
+  RECT client{};
+  ::GetClientRect(window, &client);
+  return {client.right / 2, client.bottom / 2};
+}
+
+HWND FocusWindow() {
+  GUITHREADINFO info{};
+  info.cbSize = sizeof info;
+  return ::GetGUIThreadInfo(0, &info) ? info.hwndFocus : nullptr;
+}
+
+ProgramRun::ProgramRun() {
+  char temp[MAX_PATH] = {};
+  ::GetTempPathA(MAX_PATH, temp);
+  static unsigned serial = 0;
+  root_ = FullPath(std::string(temp) + "morvane-e2e-" + std::to_string(::GetCurrentProcessId()) +
+                   "-" + std::to_string(++serial));
+  for (const char* folder : {"", "\\program", "\\target"})
+    ::CreateDirectoryA((root_ + folder).c_str(), nullptr);
+  const std::string dist = FullPath(TestFolder() + "..\\dist");
+  Walk(dist, [&](const std::string& path, bool isFolder) {
+    if (!isFolder) ::CopyFileA(path.c_str(), File(path.substr(dist.size() + 1)).c_str(), FALSE);
+  });
+  if (!IsFile(File("Morvane.exe"))) throw std::runtime_error("no shipping folder at " + dist);
+}
+
+ProgramRun::~ProgramRun() {
+  if (process_.hProcess && !HasEnded()) ::TerminateProcess(process_.hProcess, 1);
+  ::WaitForSingleObject(process_.hProcess, 5000);
+  ::CloseHandle(process_.hThread);
+  ::CloseHandle(process_.hProcess);
+  DeleteTree(root_);
+}
+
+std::string ProgramRun::Target(const std::string& name) const {
+  return root_ + "\\target" + (name.empty() ? "" : "\\" + name);
+}
+
+std::vector<std::pair<std::string, std::string>> ProgramRun::Files() const {
+  std::vector<std::pair<std::string, std::string>> files;
+  Walk(root_, [&](const std::string& path, bool isFolder) {
+    // The program's own font file comes and goes with every run.
+    if (path != File("Morvane.ttf")) files.emplace_back(path, isFolder ? "\\" : ReadFile(path));
+  });
+  return files;
+}
+
+std::string ProgramRun::Changes(const std::vector<std::string>& allowed) const {
+  const auto after = Files();
+  std::string changes;
+  for (const auto* list : {&before_, &after}) {
+    for (const auto& [path, bytes] : *list) {
+      const auto& other = list == &before_ ? after : before_;
+      const bool same =
+          std::find(other.begin(), other.end(), std::pair(path, bytes)) != other.end();
+      const std::string relative = path.substr(root_.size() + 1);
+      bool mayChange = false;
+      for (const std::string& prefix : allowed) mayChange |= relative.rfind(prefix, 0) == 0;
+      if (!same && !mayChange) changes += relative + "\n";
+    }
+  }
+  return changes;
+}
+
+void ProgramRun::Start(const std::string& arguments) {
+  if (process_.hProcess) ::CloseHandle(process_.hThread), ::CloseHandle(process_.hProcess);
+  std::string line = "\"" + File("Morvane.exe") + "\"";
+  if (!arguments.empty()) line += " " + arguments;
+  STARTUPINFOA startup{};
+  startup.cb = sizeof startup;
+  main = nullptr;
+  if (!::CreateProcessA(File("Morvane.exe").c_str(), line.data(), nullptr, nullptr, FALSE, 0,
+                        nullptr, nullptr, &startup, &process_))
+    throw std::runtime_error("cannot start " + line);
+}
+
+bool ProgramRun::Open(int icons) {
+  Start(Target());
+  return WaitForMain() && WaitUntil([&] { return IconCount() >= icons; });
+}
+
+HWND ProgramRun::WaitForMain() {
+  WaitUntil([&] {
+    bool splash = false;
+    for (HWND window : Windows()) {
+      const std::string title = Text(window);
+      splash |= title == "frmSplash";
+      if (ClassOf(window) == "MorvaneForm" && title != "frmSplash" && title != "frmShadow")
+        main = window;
+    }
+    return main && !splash;
+  });
+  return main;
+}
+
+HWND ProgramRun::WaitForWindow(const std::string& className, const std::string& title) const {
+  HWND found = nullptr;
+  WaitUntil([&] {
+    for (HWND window : Windows())
+      if (ClassOf(window) == className && (title.empty() || Text(window) == title)) found = window;
+    return found != nullptr;
+  });
+  return found;
+}
+
+std::vector<HWND> ProgramRun::Windows() const {
+  std::vector<HWND> found;
+  for (HWND window : TopWindows()) {
+    DWORD owner = 0;
+    ::GetWindowThreadProcessId(window, &owner);
+    if (owner == process_.dwProcessId) found.push_back(window);
+  }
+  return found;
+}
+
+DWORD ProgramRun::ExitCode() const {
+  DWORD code = STILL_ACTIVE;
+  ::GetExitCodeProcess(process_.hProcess, &code);
+  return code;
+}
+
+bool ProgramRun::Close() {
+  if (::IsWindow(main)) ::PostMessageA(main, WM_CLOSE, 0, 0);
+  return Ended();
+}
+
+int ProgramRun::IconCount() const {
+  return static_cast<int>(::SendMessageA(Element(ids::kIconList), LVM_GETITEMCOUNT, 0, 0));
+}
+
+}  // namespace e2e

@@ -1,0 +1,108 @@
+// The real Morvane.exe run in its own process from a scratch copy of the
+// shipping folder, seen and driven from outside as a user would. Win32 only,
+// so that it keeps building whatever the product's sources become.
+#pragma once
+
+#include <windows.h>
+
+#include <chrono>
+#include <string>
+#include <vector>
+
+namespace e2e {
+
+using namespace std::chrono_literals;
+// Long enough for the slowest start (a 1 MB Desktop.ini) on a busy machine.
+inline constexpr auto kLimit = 60s;
+
+// The control ids the program gives its elements so that tools can find them.
+namespace ids {
+inline constexpr int kPreview = 1102, kDefaultFolderIcon = 1103, kInfoTip = 1104;
+inline constexpr int kRecentFiles = 1105, kIconList = 1106, kBrowse = 1107, kApply = 1108;
+inline constexpr int kStatus = 1109, kUpdate = 1202, kWebPage = 1203, kHelp = 1204, kOk = 1205;
+}  // namespace ids
+
+std::string TestFolder();  // with "\"
+std::string ReadFile(const std::string& path);
+void WriteFile(const std::string& path, const std::string& bytes);
+bool IsFile(const std::string& path);
+std::string IniValue(const std::string& file, const char* section, const char* key);
+std::string LibraryString(const std::string& library, int id);
+std::string Text(HWND window);
+std::string ClassOf(HWND window);
+std::vector<HWND> TopWindows();  // visible ones
+// Closes Wine's "Program Error" window, shown when a process dies of an exception.
+bool CrashWindowShown();
+
+// Polls until `condition` holds (true), or the limit passes or a crash window shows.
+template <typename Condition>
+bool WaitUntil(Condition condition, std::chrono::milliseconds limit = kLimit) {
+  const auto deadline = std::chrono::steady_clock::now() + limit;
+  for (; !condition(); ::Sleep(10))
+    if (std::chrono::steady_clock::now() >= deadline || CrashWindowShown()) return false;
+  return true;
+}
+
+struct MessageBoxView {
+  std::string title, text;
+  std::vector<std::string> buttons;
+  HWND icon = nullptr;  // its picture, when it shows one
+};
+MessageBoxView Read(HWND box);
+// Whether `icon` shows the system icon `which` (IDI_...) pixel for pixel.
+bool ShowsSystemIcon(HWND icon, LPCSTR which);
+void Answer(HWND box, int button);
+
+// Input through the system's queue at a point of a window's client area.
+void Click(HWND window, POINT at, bool rightButton = false, int times = 1);
+void MovePointer(HWND window, POINT at);  // no window: screen coordinates
+void Type(const std::string& text);
+void PressKey(WORD virtualKey);
+POINT Centre(HWND window);
+HWND FocusWindow();  // of whichever process has the foreground
+
+// A scratch folder holding "program\" (a copy of the shipping folder) and
+// "target\" (the folder to customise), and a run of Morvane.exe on them.
+class ProgramRun {
+ public:
+  ProgramRun();
+  ~ProgramRun();
+  ProgramRun(const ProgramRun&) = delete;
+  ProgramRun& operator=(const ProgramRun&) = delete;
+
+  std::string Root() const { return root_; }
+  std::string File(const std::string& name) const { return root_ + "\\program\\" + name; }
+  std::string Target(const std::string& name = "") const;
+  // Paths under Root() that differ from `before`, apart from the font file.
+  std::string Changes(const std::vector<std::string>& allowed = {}) const;
+  void Remember() { before_ = Files(); }
+
+  void Start(const std::string& arguments);  // after the program's quoted name
+  // Starts it on the target folder; true once the main window is up, start-up
+  // over and `icons` icons listed.
+  bool Open(int icons = 1);
+  HWND WaitForMain();
+  HWND WaitForWindow(const std::string& className, const std::string& title = "") const;
+  HWND WaitForDialog() const { return WaitForWindow("#32770"); }
+  std::vector<HWND> Windows() const;
+  bool HasEnded() const { return ::WaitForSingleObject(process_.hProcess, 0) == WAIT_OBJECT_0; }
+  bool Ended() const {
+    return WaitUntil([&] { return HasEnded(); });
+  }
+  DWORD ExitCode() const;
+  bool Close();  // true when the process ended
+
+  HWND Element(int id) const { return ::GetDlgItem(main, id); }
+  int IconCount() const;
+
+  HWND main = nullptr;
+
+ private:
+  std::vector<std::pair<std::string, std::string>> Files() const;
+
+  std::string root_;
+  std::vector<std::pair<std::string, std::string>> before_;
+  PROCESS_INFORMATION process_{};
+};
+
+}  // namespace e2e
