@@ -105,10 +105,6 @@ void Run::Start() {
 
   ui::MainWindow& main = *main_;
   main.Load();
-  // The splash stands in front of the main window, which shows while the
-  // icons are still loading, until start-up closes it; other programs'
-  // windows may cover both.
-  splash.SetOwner(&main);
   toolkit::DoEvents();
   main.Tile();
   main.Shadow().Show();

@@ -65,6 +65,9 @@ void Form::SetOwner(const Form* owner) {
   if (!Loaded()) return;
   HWND ownerWindow = owner ? owner->Hwnd() : nullptr;
   ::SetWindowLongPtrA(Hwnd(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(ownerWindow));
+  // The system keeps an owned window above its owner only once it stands
+  // there: a new owner made later than this form would otherwise cover it.
+  if (owner) ::SetWindowPos(Hwnd(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
 void Form::Hide() {

@@ -17,10 +17,9 @@ class AboutWindow : public toolkit::Form {
   explicit AboutWindow(const WindowContext& context);
   ~AboutWindow() override;
 
-  // While set, the window loads as the splash: its buttons hidden and
-  // disabled, the splash text shown.
+  // While set, the window loads as the splash: in front, its buttons hidden
+  // and disabled, the splash text shown.
   void SetSplash(bool splash) { splash_ = splash; }
-  bool Splash() const { return splash_; }
 
   // Opens the window modally; the web pages its buttons open belong to
   // `pageOwner`, the program's main window. While the same window still
@@ -33,6 +32,7 @@ class AboutWindow : public toolkit::Form {
   void Tile();
 
  protected:
+  DWORD ExtendedStyle() const override;
   void CreateElements() override;
   void OnLoad() override;
   void OnUnload() override;
