@@ -58,7 +58,16 @@ void Form::Load() {
 
 void Form::Show() {
   Load();
-  if (Loaded()) ::ShowWindow(Hwnd(), SW_SHOW);
+  if (Loaded()) ::ShowWindow(Hwnd(), ActivatesOnShow() ? SW_SHOW : SW_SHOWNA);
+}
+
+void Form::SetOwner(const Form* owner) {
+  if (!Loaded()) return;
+  HWND ownerWindow = owner ? owner->Hwnd() : nullptr;
+  ::SetWindowLongPtrA(Hwnd(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(ownerWindow));
+  // The system keeps an owned window above its owner only once it stands
+  // there: a new owner made later than this form would otherwise cover it.
+  if (owner) ::SetWindowPos(Hwnd(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
 void Form::Hide() {
@@ -300,6 +309,18 @@ void Form::OnMouseMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   }
 }
 
+// The element that had the keyboard focus gets it back when the form is
+// active again, after a message box for instance, as in a dialog.
+void Form::OnActivateMessage(WORD state) {
+  if (state == WA_INACTIVE) {
+    HWND focus = ::GetFocus();
+    if (focus && ::IsChild(Hwnd(), focus)) focusToRestore_ = focus;
+    return;
+  }
+  if (focusToRestore_ && ::IsChild(Hwnd(), focusToRestore_)) ::SetFocus(focusToRestore_);
+  OnActivate();
+}
+
 LRESULT Form::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_PAINT: OnPaintMessage(); return 0;
@@ -311,9 +332,7 @@ LRESULT Form::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       ::FillRect(reinterpret_cast<HDC>(wParam), &client, brush.get());
       return 1;
     }
-    case WM_ACTIVATE:
-      if (LOWORD(wParam) != WA_INACTIVE) OnActivate();
-      return 0;
+    case WM_ACTIVATE: OnActivateMessage(LOWORD(wParam)); return 0;
     case WM_TIMER:
       for (const Timer& timer : timers_) {
         if (static_cast<WPARAM>(timer.id) == wParam && timer.onTick) timer.onTick();

@@ -59,6 +59,9 @@ class Form : public Element, public Canvas, private WindowBase, public ElementOw
   // other windows take no input meanwhile.
   void ShowModal();
   void Hide();
+  // Makes `owner` (nullptr for none) this form's owner: the system and any
+  // window manager keep a form above its owner and its owner right beneath it.
+  void SetOwner(const Form* owner);
   bool Visible() const;
   void Unload() { Unload(kUnloadFromCode); }
   void Unload(UnloadMode mode);
@@ -94,6 +97,8 @@ class Form : public Element, public Canvas, private WindowBase, public ElementOw
   // Extended window styles, e.g. WS_EX_TOOLWINDOW for a window that the
   // taskbar does not list.
   virtual DWORD ExtendedStyle() const { return 0; }
+  // False for a form that Show must not activate.
+  virtual bool ActivatesOnShow() const { return true; }
   // Called by Load, before OnLoad: create the form's elements here.
   virtual void CreateElements() {}
   virtual void OnLoad() {}
@@ -133,6 +138,7 @@ class Form : public Element, public Canvas, private WindowBase, public ElementOw
   T& Keep(std::unique_ptr<T> element);
   void DestroyElements();
   void OnPaintMessage();
+  void OnActivateMessage(WORD state);
   void OnMouseMessage(UINT message, WPARAM wParam, LPARAM lParam);
   Label* LabelAt(POINT pixels) const;
   Control* ControlOf(HWND window) const;
@@ -152,6 +158,7 @@ class Form : public Element, public Canvas, private WindowBase, public ElementOw
   std::unique_ptr<ToolTips> tips_;
   MouseHandlers formMouse_;  // the form's own events, as handlers
   MouseHandlers* pressed_ = nullptr;
+  HWND focusToRestore_ = nullptr;
 };
 
 }  // namespace toolkit

@@ -32,8 +32,13 @@ void RaiseMouseEvent(MouseHandlers& target, UINT message, const MouseEvent& even
       if (target.onMouseMove) target.onMouseMove(event);
       return;
     case WM_LBUTTONDBLCLK:
-      if (target.onDblClick) target.onDblClick();
-      return;
+      if (target.onDblClick) {
+        target.onDblClick();
+        return;
+      }
+      // Without a double-click of its own the second press is a press like
+      // the first: a button pressed twice quickly acts twice.
+      [[fallthrough]];
     case WM_LBUTTONDOWN: pressed = &target; [[fallthrough]];
     case WM_RBUTTONDOWN:
     case WM_MBUTTONDOWN:

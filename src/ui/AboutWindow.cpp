@@ -28,8 +28,10 @@ AboutWindow::AboutWindow(const WindowContext& context)
     : Form(names::kAboutWindow, kClientWidth, kClientHeight), context_(context) {}
 AboutWindow::~AboutWindow() = default;
 
-void AboutWindow::Open() {
-  if (!Loaded()) ShowModal();
+void AboutWindow::Open(HWND pageOwner) {
+  if (Loaded()) return;
+  pageOwner_ = pageOwner;
+  ShowModal();
 }
 
 // The splash stays in front of the main window, which shows while the icons
@@ -64,7 +66,8 @@ void AboutWindow::CreateElements() {
 
   auto web = [this](platform::WebPage page) {
     return [this, page] {
-      platform::OpenWebPage(page, context_.Text(IDS_LANGUAGE_CODE), Hwnd(), context_.programFolder);
+      platform::OpenWebPage(page, context_.Text(IDS_LANGUAGE_CODE), pageOwner_,
+                            context_.programFolder);
     };
   };
   using Behaviour = SkinnedButton::Behaviour;

@@ -20,12 +20,13 @@ class AboutWindow : public toolkit::Form {
   // While set, the window loads as the splash: in front, its buttons hidden
   // and disabled, the splash text shown.
   void SetSplash(bool splash) { splash_ = splash; }
-  bool Splash() const { return splash_; }
 
-  // Opens the window modally. While the same window still stands as the
-  // splash (start-up lets messages run as it lists the icons), the request is
-  // ignored: the splash already shows the information and start-up closes it.
-  void Open();
+  // Opens the window modally; the web pages its buttons open belong to
+  // `pageOwner`, the program's main window. While the same window still
+  // stands as the splash (start-up lets messages run as it lists the icons),
+  // the request is ignored: the splash already shows the information and
+  // start-up closes it.
+  void Open(HWND pageOwner);
 
   // Repaints the button faces in their normal state.
   void Tile();
@@ -45,6 +46,7 @@ class AboutWindow : public toolkit::Form {
 
   const WindowContext& context_;
   bool splash_ = false;
+  HWND pageOwner_ = nullptr;
 
   toolkit::TextBox* text_ = nullptr;
   toolkit::PictureBox* updatesFace_ = nullptr;

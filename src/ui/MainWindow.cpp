@@ -58,6 +58,11 @@ MainWindow::MainWindow(const WindowContext& context, core::FolderSettings& setti
 
 MainWindow::~MainWindow() = default;
 
+// Owned by its shadow, the window still belongs in the taskbar.
+DWORD MainWindow::ExtendedStyle() const {
+  return WS_EX_APPWINDOW;
+}
+
 void MainWindow::CreateLabelPair(const std::string& name, const TwipsRect& twips) {
   AddLabel(name, 0, twips);
   AddLabel(name, 1, twips);  // added after index 0, so drawn in front of it
@@ -137,8 +142,8 @@ void MainWindow::CreateElements() {
     if (key == '\r') OnRecentChosen();
   };
   dragStrip_->mouse.onMouseDown = [this](const toolkit::MouseEvent&) { DragWindow(*this); };
-  dragStrip_->mouse.onDblClick = [this] { about_.Open(); };
-  helpLink_->mouse.onClick = [this] { about_.Open(); };
+  dragStrip_->mouse.onDblClick = [this] { about_.Open(Hwnd()); };
+  helpLink_->mouse.onClick = [this] { about_.Open(Hwnd()); };
 }
 
 void MainWindow::OnLoad() {
@@ -151,6 +156,7 @@ void MainWindow::OnLoad() {
   }
   ApplyWindowShape(*this);
   shadow_.Load();
+  SetOwner(&shadow_);
 
   iconImages_->SetMaskColor(iconList_->BackColor());
   toolkit::TryProperty([this] { statusStrip_->SetFontSize(kStatusFontPoints); });
@@ -282,6 +288,9 @@ void MainWindow::OnUnload() {
   }
   iconList_->SetIcons(nullptr);
   iconList_->SetSmallIcons(nullptr);
+  // Destroying an owner destroys what it owns; this window goes when the
+  // program ends.
+  SetOwner(nullptr);
   shadow_.Unload();
   about_.Unload();
   if (onClosed_) onClosed_();

@@ -50,6 +50,7 @@ class MainWindow : public toolkit::Form {
   void ListIcons(int count);
 
  protected:
+  DWORD ExtendedStyle() const override;
   void CreateElements() override;
   void OnLoad() override;
   void OnQueryUnload(std::int16_t& cancel, toolkit::UnloadMode mode) override;

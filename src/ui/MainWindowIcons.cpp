@@ -157,8 +157,14 @@ void MainWindow::OnDefaultIconDblClick() {
   Unload();
 }
 
+// The line's text comes from the list the box was filled from, not from the
+// box: Wine converts a line read back through the ANSI call in a buffer of
+// 512 characters and faults on a longer one.
 void MainWindow::OnRecentChosen() {
-  OpenIconFile(recentBox_->Text());
+  const int line = recentBox_->ListIndex();
+  const core::RecentIconFiles::Entries& entries = recent_.List();
+  if (line < 0 || line >= static_cast<int>(entries.size())) return;
+  OpenIconFile(entries[static_cast<std::size_t>(line)]);
 }
 
 void MainWindow::OpenIconFile(const std::string& typed) {

@@ -11,15 +11,14 @@ constexpr int kFollowTimer = 1;
 constexpr UINT kFollowInterval = 100;
 }  // namespace
 
-ShadowWindow::ShadowWindow(toolkit::Form& owner)
-    : Form(names::kShadowWindow, owner.Width(), owner.Height()), owner_(owner) {
+ShadowWindow::ShadowWindow(toolkit::Form& mainWindow)
+    : Form(names::kShadowWindow, mainWindow.Width(), mainWindow.Height()), mainWindow_(mainWindow) {
   SetBackColor(kShadowGrey);
 }
 
-// Not listed in the taskbar: the user never works in it. It may be activated
-// all the same: a click on it is what brings the main window back in front.
+// Not listed in the taskbar and never active: the user never works in it.
 DWORD ShadowWindow::ExtendedStyle() const {
-  return WS_EX_TOOLWINDOW;
+  return WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE;
 }
 
 void ShadowWindow::CreateElements() {
@@ -27,19 +26,19 @@ void ShadowWindow::CreateElements() {
 }
 
 void ShadowWindow::OnLoad() {
-  Resize(owner_.Width(), owner_.Height());
+  Resize(mainWindow_.Width(), mainWindow_.Height());
   ApplyWindowShape(*this);
 }
 
-// Without SWP_NOACTIVATE the main window takes the activation as well.
-void ShadowWindow::OnActivate() {
-  if (owner_.Loaded()) ::SetWindowPos(owner_.Hwnd(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+// A press on the shadow is meant for the window it belongs to.
+void ShadowWindow::OnMouseDown(const toolkit::MouseEvent&) {
+  if (mainWindow_.Loaded()) ::SetForegroundWindow(mainWindow_.Hwnd());
 }
 
 void ShadowWindow::Follow() {
-  if (!owner_.Loaded()) return;
-  const int left = owner_.Left() + kOffsetTwips;
-  const int top = owner_.Top() + kOffsetTwips;
+  if (!mainWindow_.Loaded()) return;
+  const int left = mainWindow_.Left() + kOffsetTwips;
+  const int top = mainWindow_.Top() + kOffsetTwips;
   if (left != Left() || top != Top()) Move(left, top);
 }
 

@@ -17,7 +17,12 @@ SkinnedButton::SkinnedButton(toolkit::PictureBox& face, Behaviour behaviour)
   };
   face_.mouse.onMouseDown = [this](const toolkit::MouseEvent&) {
     DrawBevel(face_, kFrameThickness, kFrameDistance, Bevel::kSunken, true);
-    if (behaviour_.onPress) behaviour_.onPress();
+    // The press's action may keep the program busy for a while (opening a
+    // web page takes most of a second): the frame shows first.
+    if (behaviour_.onPress) {
+      face_.Refresh();
+      behaviour_.onPress();
+    }
   };
   if (behaviour_.raiseOnRelease) {
     face_.mouse.onMouseUp = [this](const toolkit::MouseEvent&) {

@@ -25,7 +25,7 @@ std::vector<std::string> Requests(const std::string& log) {
   return lines;
 }
 
-TEST(AboutWindow, OpensFromTheHelpLinkAndItsButtonsAskForTheirPages) {
+TEST(AboutWindow, OpensFromTheHelpLinkItsButtonsAskForTheirPagesAndOkClosesIt) {
   constexpr char kHandler[] = "http\\shell\\open\\command";
   char old[1024] = {};
   DWORD size = sizeof old;
@@ -47,7 +47,7 @@ TEST(AboutWindow, OpensFromTheHelpLinkAndItsButtonsAskForTheirPages) {
   for (int button : {ids::kUpdate, ids::kWebPage, ids::kHelp, ids::kOk})
     EXPECT_TRUE(::IsWindowVisible(::GetDlgItem(about, button))) << button;
   HWND ok = ::GetDlgItem(about, ids::kOk);
-  Click(ok, Centre(ok), true);  // only a left click closes; the presses below prove it open
+  Click(ok, Centre(ok), true);  // only a left click closes: the presses below prove it open
 
   const std::regex address(
       "http://www\\.morvane\\.example/cgi-bin/morvane/redir\\.cgi\\?redir=([^&]*)&url=([0-9]+)"
@@ -74,18 +74,9 @@ TEST(AboutWindow, OpensFromTheHelpLinkAndItsButtonsAskForTheirPages) {
     clients.push_back(parts[1]);
   }
   EXPECT_NE(clients[1], clients[3]) << "two presses, two client parameters";
-}
-
-TEST(AboutWindow, OkClosesItAndTheMainWindowGoesOn) {
-  ProgramRun run;
-  ASSERT_TRUE(run.Open());
-  Click(run.main, kHelpLink);
-  HWND about = run.WaitForWindow("MorvaneForm", "frmSplash");
-  ASSERT_NE(about, nullptr);
-  HWND ok = ::GetDlgItem(about, ids::kOk);
   Click(ok, Centre(ok));
   EXPECT_TRUE(WaitUntil([&] { return !::IsWindow(about) || !::IsWindowVisible(about); }));
-  EXPECT_TRUE(run.Close());
+  EXPECT_TRUE(run.Close()) << "the main window goes on";
 }
 
 }  // namespace

@@ -263,6 +263,12 @@ bool ProgramRun::Open(int icons) {
   return WaitForMain() && WaitUntil([&] { return IconCount() >= icons; });
 }
 
+bool Above(HWND upper, HWND lower) {
+  for (HWND below = ::GetWindow(upper, GW_HWNDNEXT); below; below = ::GetWindow(below, GW_HWNDNEXT))
+    if (below == lower) return true;
+  return false;
+}
+
 HWND ProgramRun::WaitForMain() {
   WaitUntil([&] {
     bool splash = false;

@@ -59,7 +59,8 @@ void MovePointer(HWND window, POINT at);  // no window: screen coordinates
 void Type(const std::string& text);
 void PressKey(WORD virtualKey);
 POINT Centre(HWND window);
-HWND FocusWindow();  // of whichever process has the foreground
+bool Above(HWND upper, HWND lower);  // in the z-order
+HWND FocusWindow();                  // of whichever process has the foreground
 
 // A scratch folder holding "program\" (a copy of the shipping folder) and
 // "target\" (the folder to customise), and a run of Morvane.exe on them.

@@ -23,8 +23,8 @@ enum class Ending { Message, Quiet, Orderly, Main };
 struct Case {
   const char* name;
   std::function<void(ProgramRun&)> prepare;
-  std::function<std::string(const ProgramRun&)> arguments;  // the target folder when empty
   Ending ending;
+  std::function<std::string(const ProgramRun&)> arguments = {};  // the target folder when empty
   std::function<void(ProgramRun&)> action = {};
   std::vector<std::string> mayChange = {};  // paths under the scratch folder
   const char* language = "LANG_ENG.DLL";
@@ -84,38 +84,42 @@ const auto kNothing = [](ProgramRun&) {};
 
 TEST(Start, EndsAsDesigned) {
   const Case cases[] = {
-      {"no folder given", kNothing, Line([](auto) { return ""; }), Ending::Message},
-      {"blanks only", kNothing, Line([](auto) { return "   "; }), Ending::Message},
+      {"no folder given", kNothing, Ending::Message, Line([](auto) { return ""; })},
+      {"blanks only", kNothing, Ending::Message, Line([](auto) { return "   "; })},
       {"no Config.ini and no English: Spanish",
        [](ProgramRun& run) { Deletes("Config.ini")(run), Deletes("LANG_ENG.DLL")(run); },
-       Line([](auto) { return ""; }),
        Ending::Message,
+       Line([](auto) { return ""; }),
        {},
        {},
        "LANG_ESP.DLL"},
-      {"a folder", kNothing, {}, Ending::Main},
-      {"a folder with one trailing \\", kNothing, Line([](auto t) { return t + "\\"; }),
-       Ending::Main},
-      {"a folder with one trailing /", kNothing, Line([](auto t) { return t + "/"; }),
-       Ending::Main},
-      {"a missing folder", kNothing, Line([](auto t) { return t + "\\missing"; }), Ending::Quiet},
-      {"a file", kNothing, Line([](auto t) { return t + "\\photo.jpg"; }), Ending::Quiet},
-      {"two trailing \\", kNothing, Line([](auto t) { return t + "\\\\"; }), Ending::Quiet},
-      {"in quotes", kNothing, Line([](auto t) { return "\"" + t + "\""; }), Ending::Quiet},
-      {"leading blanks", kNothing, Line([](auto t) { return "  " + t; }), Ending::Quiet},
-      {"a missing network folder", kNothing, Line([](auto) { return "\\\\nohost\\share"; }),
-       Ending::Quiet},
-      {"no picture library", Deletes("Resource.DLL"), {}, Ending::Orderly},
-      {"a missing language configured",
-       Writes("Config.ini", "[Config]\r\nLANGUAGE=LANG_XY.DLL"),
+      {"a folder",
+       kNothing,
+       Ending::Main,
        {},
+       [](ProgramRun& run) {
+         HWND shadow = ::GetWindow(run.main, GW_OWNER);
+         EXPECT_EQ(Text(shadow), "frmShadow") << "the shadow owns the window it stands under";
+         EXPECT_TRUE(Above(run.main, shadow));
+       }},
+      {"a folder with one trailing \\", kNothing, Ending::Main,
+       Line([](auto t) { return t + "\\"; })},
+      {"a folder with one trailing /", kNothing, Ending::Main,
+       Line([](auto t) { return t + "/"; })},
+      {"a missing folder", kNothing, Ending::Quiet, Line([](auto t) { return t + "\\missing"; })},
+      {"a file", kNothing, Ending::Quiet, Line([](auto t) { return t + "\\photo.jpg"; })},
+      {"two trailing \\", kNothing, Ending::Quiet, Line([](auto t) { return t + "\\\\"; })},
+      {"in quotes", kNothing, Ending::Quiet, Line([](auto t) { return "\"" + t + "\""; })},
+      {"leading blanks", kNothing, Ending::Quiet, Line([](auto t) { return "  " + t; })},
+      {"a missing network folder", kNothing, Ending::Quiet,
+       Line([](auto) { return "\\\\nohost\\share"; })},
+      {"no picture library", Deletes("Resource.DLL"), Ending::Orderly},
+      {"a missing language configured", Writes("Config.ini", "[Config]\r\nLANGUAGE=LANG_XY.DLL"),
        Ending::Orderly},
       {"no language library",
        [](ProgramRun& run) { Deletes("LANG_ENG.DLL")(run), Deletes("LANG_ESP.DLL")(run); },
-       Line([](auto) { return ""; }), Ending::Orderly},
-      {"the picture library without its font",
-       Copies("NOFONT.DLL", "Resource.DLL"),
-       {},
+       Ending::Orderly, Line([](auto) { return ""; })},
+      {"the picture library without its font", Copies("NOFONT.DLL", "Resource.DLL"),
        Ending::Orderly},
   };
   for (const Case& c : cases) RunCase(c);
@@ -125,8 +129,8 @@ TEST(Start, ASecondCopyEndsAtOnceAndLeavesTheFirstAlone) {
   ProgramRun first;
   ASSERT_TRUE(first.Open());
   RunCase(
-      {"a second copy, no folder given", kNothing, Line([](auto) { return ""; }), Ending::Quiet});
-  RunCase({"a second copy on a folder", kNothing, {}, Ending::Quiet});
+      {"a second copy, no folder given", kNothing, Ending::Quiet, Line([](auto) { return ""; })});
+  RunCase({"a second copy on a folder", kNothing, Ending::Quiet});
   EXPECT_TRUE(::IsWindowVisible(first.main));
   EXPECT_TRUE(first.Close());
 }
@@ -169,48 +173,37 @@ void ApplyFifthIcon(ProgramRun& run) {
 TEST(Start, HostileInputEndsCleanlyAndKeepsEveryFile) {
   const std::string resource = ReadFile(TestFolder() + "..\\dist\\Resource.DLL");
   const Case cases[] = {
-      {"Config.ini of garbage", Writes("Config.ini", Garbage(3000)), {}, Ending::Main},
-      {"a folder named Config.ini", AFolderNamed("Config.ini"), {}, Ending::Main},
+      {"Config.ini of garbage", Writes("Config.ini", Garbage(3000)), Ending::Main},
+      {"a folder named Config.ini", AFolderNamed("Config.ini"), Ending::Main},
       {"LANGUAGE naming a folder",
        [](ProgramRun& run) {
          AFolderNamed("LANG_XX.DLL")(run);
          WriteFile(run.File("Config.ini"), "[Config]\r\nLANGUAGE=LANG_XX.DLL\r\n");
        },
-       {},
        Ending::Orderly},
-      {"Resource.DLL cut in half",
-       Writes("Resource.DLL", resource.substr(0, resource.size() / 2)),
-       {},
+      {"Resource.DLL cut in half", Writes("Resource.DLL", resource.substr(0, resource.size() / 2)),
        Ending::Orderly},
-      {"a language library without strings",
-       Copies("TESTRES.DLL", "LANG_ENG.DLL"),
-       {},
-       Ending::Main},
-      {"a folder named iconos.dll", AFolderNamed("iconos.dll"), {}, Ending::Main},
+      {"a language library without strings", Copies("TESTRES.DLL", "LANG_ENG.DLL"), Ending::Main},
+      {"a folder named iconos.dll", AFolderNamed("iconos.dll"), Ending::Main},
       {"Desktop.ini with a 1 MB line",
        InTarget("[.ShellClassInfo]\r\nInfoTip=" + std::string(1 << 20, 'x') + "\r\n"),
-       {},
        Ending::Main},
       {"read-only, hidden and system Desktop.ini",
        InTarget("[.ShellClassInfo]\r\nIconIndex=2\r\n",
                 FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM),
-       {},
        Ending::Main},
       {"a folder named Desktop.ini",
        [](ProgramRun& run) {
          ::CreateDirectoryA(run.Target("Desktop.ini").c_str(), nullptr);
          WriteFile(run.Target("Desktop.ini\\inside.txt"), "kept");
        },
-       {},
        Ending::Main},
-      {"the font file cannot be written: a folder named Morvane.ttf",
-       AFolderNamed("Morvane.ttf"),
-       {},
+      {"the font file cannot be written: a folder named Morvane.ttf", AFolderNamed("Morvane.ttf"),
        Ending::Orderly},
       {"the target folder deleted before apply",
        kNothing,
-       {},
        Ending::Main,
+       {},
        [](ProgramRun& run) {
          ::DeleteFileA(run.Target("photo.jpg").c_str());
          ::RemoveDirectoryA(run.Target().c_str());
@@ -221,8 +214,8 @@ TEST(Start, HostileInputEndsCleanlyAndKeepsEveryFile) {
        {"target"}},
       {"the target folder made read-only before apply",
        kNothing,
-       {},
        Ending::Main,
+       {},
        [](ProgramRun& run) {
          ::SetFileAttributesA(run.Target().c_str(), FILE_ATTRIBUTE_READONLY);
          ApplyFifthIcon(run);
@@ -230,8 +223,8 @@ TEST(Start, HostileInputEndsCleanlyAndKeepsEveryFile) {
        {"target\\Desktop.ini"}},
       {"Desktop.ini locked by another process: apply, then remove",
        InTarget("[.ShellClassInfo]\r\nIconIndex=9\r\n"),
-       {},
        Ending::Main,
+       {},
        [](ProgramRun& run) {
          HANDLE lock = ::CreateFileA(run.Target("Desktop.ini").c_str(), GENERIC_READ, 0, nullptr,
                                      OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
@@ -244,8 +237,8 @@ TEST(Start, HostileInputEndsCleanlyAndKeepsEveryFile) {
        }},
       {"the icon file deleted between listing and choosing",
        kNothing,
-       {},
        Ending::Main,
+       {},
        [](ProgramRun& run) {
          ::DeleteFileA(run.File("iconos.dll").c_str());
          ApplyFifthIcon(run);

@@ -112,4 +112,16 @@ TEST_F(ToolkitTest, ImageListsKeepCopiesAndListsFilledInABatchAreShown) {
       << "redrawing came back on after the batch";
 }
 
+// A quick second press arrives as a double-click: without a double-click of
+// its own, an element takes it as the press it is.
+TEST_F(ToolkitTest, ASecondQuickPressIsAPressToo) {
+  int presses = 0, clicks = 0;
+  form_.box->mouse.onMouseDown = [&](const toolkit::MouseEvent&) { ++presses; };
+  form_.box->mouse.onClick = [&] { ++clicks; };
+  for (UINT message : {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_LBUTTONUP})
+    ::SendMessageA(form_.box->Hwnd(), message, message == WM_LBUTTONUP ? 0 : MK_LBUTTON, 0);
+  EXPECT_EQ(presses, 2);
+  EXPECT_EQ(clicks, 2);
+}
+
 }  // namespace
