@@ -116,8 +116,8 @@ void MainWindow::CreateElements() {
   using Behaviour = SkinnedButton::Behaviour;
   browseButton_ = std::make_unique<SkinnedButton>(*browseFace_,
                                                   Behaviour{false, nullptr, [this] { Browse(); }});
-  applyButton_ =
-      std::make_unique<SkinnedButton>(*applyFace_, Behaviour{false, nullptr, [this] { Apply(); }});
+  applyButton_ = std::make_unique<SkinnedButton>(
+      *applyFace_, Behaviour{false, nullptr, [this] { Apply(true); }});
   exitButton_ =
       std::make_unique<SkinnedButton>(*exitFace_, Behaviour{false, nullptr, [this] { Unload(); }});
 

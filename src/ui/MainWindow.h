@@ -80,7 +80,8 @@ class MainWindow : public toolkit::Form {
   void OnDefaultIconDblClick();
   void OnRecentChosen();
   void Browse();
-  void Apply();
+  // Nothing while the list shows no icons; after a Yes when `askFirst`.
+  void Apply(bool askFirst);
   void RemoveCustomisation();
 
   const WindowContext& context_;

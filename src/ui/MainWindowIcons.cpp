@@ -116,10 +116,10 @@ void MainWindow::SelectIcon(std::optional<int> item) {
   if (item) settings_.iconIndex = *item - 1;
 }
 
-void MainWindow::Apply() {
+void MainWindow::Apply(bool askFirst) {
   if (browser_.Empty()) return;
-  if (!platform::AskYesNo(::GetActiveWindow(), context_.Text(IDS_APPLY_PROMPT),
-                          context_.Text(IDS_CONFIRM_TITLE))) {
+  if (askFirst && !platform::AskYesNo(::GetActiveWindow(), context_.Text(IDS_APPLY_PROMPT),
+                                      context_.Text(IDS_CONFIRM_TITLE))) {
     return;
   }
   core::ApplyFolderIcon(context_.targetFolder, settings_, !settingsFileExisted_, context_.language,
@@ -134,10 +134,7 @@ void MainWindow::OnIconsDblClick() {
 
 void MainWindow::OnPreviewDblClick() {
   if (!newIcon_->GetPicture().Handle()) return;
-  if (!browser_.Empty()) {
-    core::ApplyFolderIcon(context_.targetFolder, settings_, !settingsFileExisted_,
-                          context_.language, shell_);
-  }
+  Apply(false);
   Unload();
 }
 
