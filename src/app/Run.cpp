@@ -104,6 +104,9 @@ void Run::Start() {
   toolkit::DoEvents();
 
   ui::MainWindow& main = *main_;
+  // The splash can be read over the main window until start-up closes it,
+  // without standing in front of other programs.
+  main.StayBehind(&splash);
   main.Load();
   toolkit::DoEvents();
   main.Tile();
@@ -115,6 +118,7 @@ void Run::Start() {
   toolkit::DoEvents();
 
   splash.Unload();
+  main.StayBehind(nullptr);
   toolkit::DoEvents();
   splash.SetSplash(false);
 }

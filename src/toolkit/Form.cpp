@@ -321,8 +321,19 @@ void Form::OnActivateMessage(WORD state) {
   OnActivate();
 }
 
+void Form::KeepFrontAbove(const WINDOWPOS& position) const {
+  if (!front_ || !front_->Visible() || (position.flags & SWP_NOZORDER)) return;
+  HWND above = ::GetWindow(Hwnd(), GW_HWNDPREV);
+  if (above == front_->Hwnd()) return;
+  ::SetWindowPos(front_->Hwnd(), above ? above : HWND_TOP, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
 LRESULT Form::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
+    case WM_WINDOWPOSCHANGED:
+      KeepFrontAbove(*reinterpret_cast<WINDOWPOS*>(lParam));
+      return Default(message, wParam, lParam);
     case WM_PAINT: OnPaintMessage(); return 0;
     case WM_CLOSE: Unload(kUnloadFromWindow); return 0;
     case WM_ERASEBKGND: {

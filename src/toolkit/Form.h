@@ -62,6 +62,10 @@ class Form : public Element, public Canvas, private WindowBase, public ElementOw
   // Makes `owner` (nullptr for none) this form's owner: the system and any
   // window manager keep a form above its owner and its owner right beneath it.
   void SetOwner(const Form* owner);
+  // While `front` (another form of the program) is shown, it is put back
+  // right above this form whenever this form is raised; nullptr lifts the
+  // rule. Unlike a topmost window, `front` stays behind other programs'.
+  void StayBehind(const Form* front) { front_ = front; }
   bool Visible() const;
   void Unload() { Unload(kUnloadFromCode); }
   void Unload(UnloadMode mode);
@@ -138,6 +142,7 @@ class Form : public Element, public Canvas, private WindowBase, public ElementOw
   T& Keep(std::unique_ptr<T> element);
   void DestroyElements();
   void OnPaintMessage();
+  void KeepFrontAbove(const WINDOWPOS& position) const;
   void OnActivateMessage(WORD state);
   void OnMouseMessage(UINT message, WPARAM wParam, LPARAM lParam);
   Label* LabelAt(POINT pixels) const;
@@ -159,6 +164,7 @@ class Form : public Element, public Canvas, private WindowBase, public ElementOw
   MouseHandlers formMouse_;  // the form's own events, as handlers
   MouseHandlers* pressed_ = nullptr;
   HWND focusToRestore_ = nullptr;
+  const Form* front_ = nullptr;
 };
 
 }  // namespace toolkit

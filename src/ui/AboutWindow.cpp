@@ -34,13 +34,6 @@ void AboutWindow::Open(HWND pageOwner) {
   ShowModal();
 }
 
-// The splash stays in front of the main window, which shows while the icons
-// are still loading, so that it can be read and clicked away until start-up
-// closes it. The about window is an ordinary window.
-DWORD AboutWindow::ExtendedStyle() const {
-  return splash_ ? WS_EX_TOPMOST : 0;
-}
-
 void AboutWindow::CreateElements() {
   text_ = &AddTextBox(names::kAboutText, {135, 945, 4020, 3795}, ids::aboutText,
                       toolkit::TextBox::Lines::kMultiple);

@@ -32,7 +32,6 @@ class AboutWindow : public toolkit::Form {
   void Tile();
 
  protected:
-  DWORD ExtendedStyle() const override;
   void CreateElements() override;
   void OnLoad() override;
   void OnUnload() override;

@@ -79,4 +79,27 @@ TEST(AboutWindow, OpensFromTheHelpLinkItsButtonsAskForTheirPagesAndOkClosesIt) {
   EXPECT_TRUE(run.Close()) << "the main window goes on";
 }
 
+// A slow start-up (1234 icons to list) leaves time to look at the windows
+// while the icons load.
+TEST(Splash, StandsOverTheMainWindowButNotOverOtherPrograms) {
+  ProgramRun run;
+  ::CopyFileA((TestFolder() + "ICONS1234.DLL").c_str(), run.File("iconos.dll").c_str(), FALSE);
+  run.Start(run.Target());
+  HWND splash = nullptr, shadow = nullptr;
+  ASSERT_TRUE(WaitUntil([&] {
+    for (HWND window : run.Windows()) {
+      if (ClassOf(window) != "MorvaneForm") continue;
+      const std::string title = Text(window);
+      (title == "frmSplash" ? splash : title == "frmShadow" ? shadow : run.main) = window;
+    }
+    return splash && shadow && run.main &&
+           Text(run.Element(ids::kStatus)).find('/') != std::string::npos;
+  }));
+  EXPECT_FALSE(::GetWindowLongPtrA(splash, GWL_EXSTYLE) & WS_EX_TOPMOST);
+  EXPECT_TRUE(Above(splash, run.main));
+  EXPECT_TRUE(Above(run.main, shadow));
+  EXPECT_TRUE(WaitUntil([&] { return run.IconCount() == 1234 && !::IsWindow(splash); }));
+  EXPECT_TRUE(run.Close());
+}
+
 }  // namespace
