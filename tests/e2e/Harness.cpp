@@ -81,9 +81,11 @@ bool IsFile(const std::string& path) {
 }
 
 std::string IniValue(const std::string& file, const char* section, const char* key) {
-  char value[4096] = {};
-  return std::string(
-      value, ::GetPrivateProfileStringA(section, key, "", value, sizeof value, file.c_str()));
+  for (std::string value(4096, '\0');; value.resize(value.size() * 2)) {
+    const DWORD length = ::GetPrivateProfileStringA(section, key, "", value.data(),
+                                                    static_cast<DWORD>(value.size()), file.c_str());
+    if (length + 1 < value.size()) return value.substr(0, length);
+  }
 }
 
 std::string LibraryString(const std::string& library, int id) {
@@ -94,9 +96,18 @@ std::string LibraryString(const std::string& library, int id) {
   return std::string(text, length);
 }
 
+// Asked of the window itself, within a limit: an edit control keeps what was
+// typed to itself, and a window of a hung program must not hang the test.
 std::string Text(HWND window) {
-  char buffer[4096] = {};
-  return std::string(buffer, std::max(0, ::GetWindowTextA(window, buffer, sizeof buffer)));
+  constexpr UINT kFlags = SMTO_ABORTIFHUNG, kMilliseconds = 10000;
+  DWORD_PTR length = 0, copied = 0;
+  if (!::SendMessageTimeoutA(window, WM_GETTEXTLENGTH, 0, 0, kFlags, kMilliseconds, &length))
+    return {};
+  std::string text(length + 1, '\0');
+  ::SendMessageTimeoutA(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()),
+                        kFlags, kMilliseconds, &copied);
+  text.resize(copied);
+  return text;
 }
 
 std::string ClassOf(HWND window) {

@@ -248,4 +248,51 @@ TEST(Start, HostileInputEndsCleanlyAndKeepsEveryFile) {
   for (const Case& c : cases) RunCase(c);
 }
 
+// Texts from outside meet the program at its command line, Config.ini, a
+// language library, Desktop.ini, ARA.INI and its own text box read back.
+TEST(Start, OverLongAndMalformedTextsEndAsDesigned) {
+  const std::string deep = std::string(600, 'd'), huge = std::string(30000, 'h');
+  std::string tip = "A tip";
+  while (tip.size() < 30006) tip += " word";  // one long word would wrap in seconds
+  const Case cases[] = {
+      {"a missing path of 600 characters", kNothing, Ending::Quiet,
+       Line([=](auto t) { return t + "\\" + deep; })},
+      {"a command line of 30000 characters", kNothing, Ending::Quiet,
+       Line([=](auto) { return huge; })},
+      {"wildcards and a stream colon", kNothing, Ending::Quiet,
+       Line([](auto t) { return t + "\\*?<>|:x"; })},
+      {"LANGUAGE of 5000 characters",
+       Writes("Config.ini", "[Config]\r\nLANGUAGE=" + std::string(5000, 'L') + "\r\n"),
+       Ending::Orderly},
+      {"a type face of 5000 characters",
+       Writes("Config.ini", "[Config]\r\nFont=" + std::string(5000, 'F') + "\r\n"), Ending::Main},
+      {"a language library of garbage", Writes("LANG_ENG.DLL", Garbage(3000)), Ending::Orderly},
+      {"IconFile of 600 characters, missing",
+       InTarget("[.ShellClassInfo]\r\nIconFile=C:\\" + deep + ".ico\r\nIconIndex=0\r\n"),
+       Ending::Main},
+      {"IconFile of 30000 characters and an index of 30 digits",
+       InTarget("[.ShellClassInfo]\r\nIconFile=" + huge + "\r\nIconIndex=" + std::string(30, '9') +
+                "\r\n"),
+       Ending::Main},
+      {"ARA.INI with lines of 30000 characters, of garbage and without a key",
+       Writes("ARA.INI", "[Recent]\r\nARA01=" + huge + "\r\nARA02=" + Garbage(500) +
+                             "\r\nno key here\r\n" + std::string(40000, '=') + "\r\n"),
+       Ending::Main},
+      {"an info tip of 30010 characters: read as its first 29999, shown, applied",
+       InTarget("[.ShellClassInfo]\r\nInfoTip=" + tip + "\r\n"),
+       Ending::Main,
+       {},
+       [=](ProgramRun& run) {
+         const std::string cut = tip.substr(0, 29999);
+         EXPECT_TRUE(WaitUntil([&] { return Text(run.Element(ids::kInfoTip)) == cut; }));
+         ApplyFifthIcon(run);
+         const std::string stored =
+             IniValue(run.Target("Desktop.ini"), ".ShellClassInfo", "InfoTip");
+         EXPECT_TRUE(stored == cut) << stored.size();
+       },
+       {"target\\Desktop.ini"}},
+  };
+  for (const Case& c : cases) RunCase(c);
+}
+
 }  // namespace
