@@ -321,18 +321,27 @@ void Form::OnActivateMessage(WORD state) {
   OnActivate();
 }
 
-void Form::KeepFrontAbove(const WINDOWPOS& position) const {
-  if (!front_ || !front_->Visible() || (position.flags & SWP_NOZORDER)) return;
-  HWND above = ::GetWindow(Hwnd(), GW_HWNDPREV);
-  if (above == front_->Hwnd()) return;
-  ::SetWindowPos(front_->Hwnd(), above ? above : HWND_TOP, 0, 0, 0, 0,
-                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+void Form::KeepBehindFront(const WINDOWPOS& position) {
+  if (!front_ || keepingBehind_ || !front_->Visible() || (position.flags & SWP_NOZORDER)) return;
+  for (HWND above = ::GetWindow(Hwnd(), GW_HWNDPREV); above;
+       above = ::GetWindow(above, GW_HWNDPREV)) {
+    if (above == front_->Hwnd()) return;
+  }
+  // The system keeps an owned window above its owner, so the owner goes
+  // first; the system refusing a move must not bring the rule back here.
+  keepingBehind_ = true;
+  constexpr UINT kZOrderOnly = SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE;
+  if (HWND owner = ::GetWindow(Hwnd(), GW_OWNER)) {
+    ::SetWindowPos(owner, front_->Hwnd(), 0, 0, 0, 0, kZOrderOnly);
+  }
+  ::SetWindowPos(Hwnd(), front_->Hwnd(), 0, 0, 0, 0, kZOrderOnly);
+  keepingBehind_ = false;
 }
 
 LRESULT Form::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_WINDOWPOSCHANGED:
-      KeepFrontAbove(*reinterpret_cast<WINDOWPOS*>(lParam));
+      KeepBehindFront(*reinterpret_cast<WINDOWPOS*>(lParam));
       return Default(message, wParam, lParam);
     case WM_PAINT: OnPaintMessage(); return 0;
     case WM_CLOSE: Unload(kUnloadFromWindow); return 0;

@@ -62,9 +62,9 @@ class Form : public Element, public Canvas, private WindowBase, public ElementOw
   // Makes `owner` (nullptr for none) this form's owner: the system and any
   // window manager keep a form above its owner and its owner right beneath it.
   void SetOwner(const Form* owner);
-  // While `front` (another form of the program) is shown, it is put back
-  // right above this form whenever this form is raised; nullptr lifts the
-  // rule. Unlike a topmost window, `front` stays behind other programs'.
+  // While `front` (another form of the program) is shown, this form goes
+  // back beneath it whenever it is raised above it; nullptr lifts the rule.
+  // Unlike a topmost window, `front` stays behind other programs' windows.
   void StayBehind(const Form* front) { front_ = front; }
   bool Visible() const;
   void Unload() { Unload(kUnloadFromCode); }
@@ -142,7 +142,7 @@ class Form : public Element, public Canvas, private WindowBase, public ElementOw
   T& Keep(std::unique_ptr<T> element);
   void DestroyElements();
   void OnPaintMessage();
-  void KeepFrontAbove(const WINDOWPOS& position) const;
+  void KeepBehindFront(const WINDOWPOS& position);
   void OnActivateMessage(WORD state);
   void OnMouseMessage(UINT message, WPARAM wParam, LPARAM lParam);
   Label* LabelAt(POINT pixels) const;
@@ -165,6 +165,7 @@ class Form : public Element, public Canvas, private WindowBase, public ElementOw
   MouseHandlers* pressed_ = nullptr;
   HWND focusToRestore_ = nullptr;
   const Form* front_ = nullptr;
+  bool keepingBehind_ = false;
 };
 
 }  // namespace toolkit

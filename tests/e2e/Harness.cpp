@@ -96,17 +96,17 @@ std::string LibraryString(const std::string& library, int id) {
   return std::string(text, length);
 }
 
-// Asked of the window itself, within a limit: an edit control keeps what was
-// typed to itself, and a window of a hung program must not hang the test.
 std::string Text(HWND window) {
-  constexpr UINT kFlags = SMTO_ABORTIFHUNG, kMilliseconds = 10000;
-  DWORD_PTR length = 0, copied = 0;
-  if (!::SendMessageTimeoutA(window, WM_GETTEXTLENGTH, 0, 0, kFlags, kMilliseconds, &length))
-    return {};
-  std::string text(length + 1, '\0');
-  ::SendMessageTimeoutA(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()),
-                        kFlags, kMilliseconds, &copied);
-  text.resize(copied);
+  std::string text(::GetWindowTextLengthA(window) + 1, '\0');
+  text.resize(std::max(0, ::GetWindowTextA(window, text.data(), static_cast<int>(text.size()))));
+  return text;
+}
+
+// Asked of the control itself: an edit control keeps what it holds to itself.
+std::string ControlText(HWND control) {
+  std::string text(::SendMessageA(control, WM_GETTEXTLENGTH, 0, 0) + 1, '\0');
+  text.resize(
+      ::SendMessageA(control, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data())));
   return text;
 }
 
