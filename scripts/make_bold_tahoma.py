@@ -1,16 +1,17 @@
 #!/usr/bin/python3
-"""Makes Wine's Tahoma Bold draw bold.
+"""Makes a Tahoma Bold that draws bold at every size from Wine's.
 
-Usage: make_bold_tahoma.py WINE_TAHOMABD.ttf OUT.ttf
+Usage: make_bold_tahoma.py WINE_TAHOMA.ttf WINE_TAHOMABD.ttf OUT.ttf
 
 Wine's tahomabd.ttf has the bold face's names, flags and advance widths, but
-its outlines and its embedded bitmaps are those of the regular face: text set
-in it is spaced as bold and looks regular, so labels that Windows draws in
-Tahoma Bold look regular under Wine. This keeps the names, flags and widths
-and thickens every outline, as a bold face is drawn. The embedded bitmaps go,
-so the thickened outlines are drawn at every size. So do the hints written for
-the thin outlines; a no-op pre-program stays, because FreeType auto-hints a
-TrueType font without any program, and its auto-hinter widens the advances.
+only its bitmaps of 9 to 12 pixels are bold: its larger bitmaps are mostly the
+regular face's, and so are all its outlines. Text of 10 points (13 pixels) and
+more set in it is spaced as bold and looks regular. This keeps the names,
+flags, widths and bold bitmaps, drops the regular ones, and thickens every
+outline, as a bold face is drawn, for the sizes without a bitmap. The hints
+written for the thin outlines go too; a no-op pre-program stays, because
+FreeType auto-hints a TrueType font without any program, and its auto-hinter
+widens the advances.
 """
 
 import math
@@ -20,17 +21,21 @@ from fontTools.ttLib import TTFont, newTable
 from fontTools.ttLib.tables import ttProgram
 from fontTools.ttLib.tables._g_l_y_f import GlyphCoordinates
 
-# Font units of 2048 to the em added to vertical and horizontal strokes:
-# Wine's regular stems are 184 units, Tahoma Bold's about 330.
+# Font units of 2048 to the em added to vertical and horizontal strokes. The
+# regular vertical stems are 184 units; with 150 more, text of 13 pixels looks
+# as heavy as the face's own bold bitmaps of 12.
 STEM_GAIN = 150
 BAR_GAIN = 90
 # Corners sharper than this (the cosine of the turn) are not moved: their
 # bisector points nowhere useful.
 SHARPEST_TURN = -0.9375
 NO_OP_PROGRAM = bytes([0xB0, 0x00, 0x21])  # PUSHB[0] 0, POP
-# Grey smoothing at every size, as the thickened outlines need it without hints.
-SMOOTH_AT_ALL_SIZES = {0xFFFF: 0x000A}
-DROPPED_TABLES = ("EBDT", "EBLC", "BDF ", "VDMX", "cvt ", "fpgm", "prep")
+# Wine draws a font's bitmaps only where its "gasp" table asks for no grey
+# smoothing: crisp bitmaps up to 12 pixels, smoothed unhinted outlines above.
+LARGEST_BITMAP = 12
+GASP_GRIDFIT, GASP_SMOOTH = 0x0001, 0x000A
+SIZE_RANGES = {8: GASP_SMOOTH, LARGEST_BITMAP: GASP_GRIDFIT, 0xFFFF: GASP_SMOOTH}
+DROPPED_TABLES = ("BDF ", "VDMX", "cvt ", "fpgm", "prep")
 
 
 def thicken_contour(points):
@@ -59,8 +64,33 @@ def thicken_contour(points):
     return moved
 
 
-def main(source, target):
-    font = TTFont(source)
+def strikes(font):
+    """The bitmap strikes by their size in pixels."""
+    return {
+        strike.bitmapSizeTable.ppemX: (strike, glyphs)
+        for strike, glyphs in zip(font["EBLC"].strikes, font["EBDT"].strikeData)
+    }
+
+
+def drop_regular_bitmaps(font, regular):
+    """Keeps the strikes whose glyphs mostly differ from the regular face's
+    of the same size."""
+    regular_strikes = strikes(regular)
+    kept = []
+    for size, (strike, glyphs) in strikes(font).items():
+        twins = regular_strikes.get(size, (None, {}))[1]
+        same = sum(
+            1 for name, glyph in glyphs.items() if name in twins and twins[name].data == glyph.data
+        )
+        if same * 2 < len(glyphs):
+            kept.append((strike, glyphs))
+    font["EBLC"].strikes = [strike for strike, _ in kept]
+    font["EBDT"].strikeData = [glyphs for _, glyphs in kept]
+
+
+def main(regular_source, source, target):
+    font = TTFont(source, recalcTimestamp=False)
+    drop_regular_bitmaps(font, TTFont(regular_source))
     glyphs = font["glyf"]
     metrics = font["hmtx"]
     names = font.getGlyphOrder()
@@ -90,11 +120,11 @@ def main(source, target):
     prep.program = ttProgram.Program()
     prep.program.fromBytecode(NO_OP_PROGRAM)
     font["prep"] = prep
-    font["gasp"].gaspRange = SMOOTH_AT_ALL_SIZES
+    font["gasp"].gaspRange = SIZE_RANGES
     font.save(target)
 
 
 if __name__ == "__main__":
-    if len(sys.argv) != 3:
+    if len(sys.argv) != 4:
         sys.exit(__doc__)
-    main(sys.argv[1], sys.argv[2])
+    main(sys.argv[1], sys.argv[2], sys.argv[3])
