@@ -36,6 +36,13 @@ prepare_wine_prefix() {
   local fonts="$WINEPREFIX/drive_c/windows/Fonts"
   mkdir -p "$fonts"
   cp -n /usr/share/wine/fonts/*.ttf "$fonts"/ 2>/dev/null || true
+  # Wine's Tahoma Bold draws 10 points and more with the regular strokes:
+  # bold labels would look regular. Windows' draws bold, and so does the copy
+  # made here (again whenever its script is newer).
+  local bold=/usr/share/wine/fonts/tahomabd.ttf maker="$repo_root/scripts/make_bold_tahoma.py"
+  if [ -f "$bold" ] && { cmp -s "$bold" "$fonts/tahomabd.ttf" || [ "$fonts/tahomabd.ttf" -ot "$maker" ]; }; then
+    /usr/bin/python3 "$maker" /usr/share/wine/fonts/tahoma.ttf "$bold" "$fonts/tahomabd.ttf"
+  fi
 }
 
 # Starts a persistent Wine server and Wine's own services. Their output goes

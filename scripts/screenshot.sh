@@ -15,9 +15,36 @@ trap cleanup EXIT
 start_wine_server
 unmanaged_windows N
 
-# A short path, so that the folder label shows it whole.
-sample="/tmp/Holiday Photos"
-mkdir -p "$sample"
+# Waits up to $1 seconds for the command after it to succeed.
+wait_until() {
+  local deadline=$((SECONDS + $1))
+  shift
+  until "$@" >/dev/null 2>&1; do
+    [ "$SECONDS" -lt "$deadline" ] || return 1
+    sleep 0.2
+  done
+}
+showing() { xdotool search --onlyvisible --name "$1"; }
+gone() { ! showing "$1"; }
+
+# The program and the sample folder sit on drive C, as on Windows, with short
+# paths that the folder label and the recent list show whole. The program's
+# folder is a copy, so that its recent list is the one written here.
+program="$WINEPREFIX/drive_c/Morvane"
+sample="$WINEPREFIX/drive_c/Holiday Photos"
+rm -rf "$program" "$sample"
+mkdir -p "$program" "$sample"
+cp "$build_dir"/dist/* "$program/"
+# Ten icon files opened before, most recent first, kept as the program keeps
+# them: lower case, in [Recent] ARA01 to ARA10.
+recent=(c:/morvane/iconos.dll c:/windows/system32/shell32.dll c:/windows/explorer.exe
+  c:/windows/system32/ieframe.dll c:/windows/notepad.exe c:/windows/regedit.exe
+  c:/windows/system32/user32.dll c:/windows/hh.exe c:/windows/system32/comdlg32.dll
+  c:/windows/system32/setupapi.dll)
+{
+  printf '[Recent]\r\n'
+  for i in "${!recent[@]}"; do printf 'ARA%02d=%s\r\n' $((i + 1)) "${recent[i]//\//\\}"; done
+} >"$program/ARA.INI"
 xdotool mousemove 5 5
 read -r -a words <<<"$(winepath -w "$sample")"
 mkdir -p "$repo_root/docs"
@@ -28,6 +55,7 @@ splash_copy=$(mktemp -d)
 cp "$build_dir"/dist/* "$splash_copy/"
 cp "$build_dir/tests/ICONS1234.DLL" "$splash_copy/iconos.dll"
 wine "$splash_copy/Morvane.exe" "${words[@]}" &
+morvane=$!
 splash=$(timeout 20 xdotool search --sync --onlyvisible --name '^frmSplash$' | head -n 1)
 sleep 1.5
 # Without a window manager nothing keeps a topmost window above one that Wine
@@ -36,21 +64,43 @@ xdotool windowraise "$splash"
 sleep 0.5
 /usr/bin/import -window root -crop 442x323+291+222 +repage "$repo_root/docs/splash.png"
 wine taskkill /im Morvane.exe >/dev/null 2>&1 || true
-wait
+wait "$morvane" || true
 rm -rf "$splash_copy"
 
-wine "$build_dir/dist/Morvane.exe" "${words[@]}" &
-sleep "${MORVANE_SCREENSHOT_DELAY:-6}"
+wine "$program/Morvane.exe" "${words[@]}" &
+morvane=$!
+# Start-up closes the splash once the icons are listed.
+wait_until 30 showing '^Morvane - '
+wait_until 60 gone '^frmSplash$'
+sleep 1
+
+# The user's road: an icon picked for the preview, an info tip typed, Apply
+# and Yes, which customise the folder and leave the window open; then the
+# recent list opened. The folder starts plain because Wine's shell gives every
+# folder whose Desktop.ini names an icon file a blank document (it reads the
+# file's name and drops it), where Windows shows that icon.
+xdotool mousemove 640 305 click 1 sleep 0.5
+xdotool mousemove 350 430 click 1 sleep 0.3
+xdotool type --delay 30 "Summer 2026 on the coast: beaches, boats and the old harbour."
+xdotool mousemove 524 572 click 1
+wait_until 10 showing '^Confirm$'
+xdotool key Return
+wait_until 10 test -f "$sample/Desktop.ini"
+wait_until 10 gone '^Confirm$'
 # Passing over the window's background repaints the buttons and the status
 # strip in their resting state.
-xdotool mousemove 483 370 sleep 0.5 mousemove 5 5 sleep 1
+xdotool mousemove 483 370 sleep 0.5 mousemove 5 5 sleep 0.5
+xdotool mousemove 468 540 click 1 sleep 0.5 mousemove 5 5 sleep 1
 
-# The window is centred on the 1024 x 768 screen; the margin shows its shadow.
-/usr/bin/import -window root -crop 597x448+213+160 +repage "$repo_root/docs/main-window.png"
+# The window is centred on the 1024 x 768 screen; the margin shows its
+# shadow, and the taller crop the recent list hanging below the window.
+/usr/bin/import -window root -crop 597x530+213+160 +repage "$repo_root/docs/main-window.png"
+xdotool key Escape sleep 0.5
 
 # The help link opens the about window, centred too.
 xdotool mousemove 766 227 click 1 sleep 1.5 mousemove 5 5 sleep 0.5
 /usr/bin/import -window root -crop 442x323+291+222 +repage "$repo_root/docs/about-window.png"
 # Its OK button, then the main window's exit button: an orderly end.
-xdotool mousemove 654 525 click 1 sleep 1 mousemove 755 572 click 1 sleep 1
+xdotool mousemove 654 525 click 1 sleep 1 mousemove 755 572 click 1
+wait "$morvane" || true
 echo "docs/splash.png docs/main-window.png docs/about-window.png"
