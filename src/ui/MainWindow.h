@@ -4,6 +4,7 @@
 // skinned buttons.
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -119,6 +120,7 @@ class MainWindow : public toolkit::Form {
   std::string applyCaption_, loadingText_, fewIconsText_, iconCountText_;
   // The progress text the status strip shows while icons load.
   std::string shownProgress_;
+  std::chrono::steady_clock::time_point progressPresented_;
 };
 
 }  // namespace ui

@@ -23,6 +23,8 @@ namespace {
 
 constexpr int kIconSpacing = 43;
 constexpr LPARAM kDefaultSpacing = -1;
+// One frame of a 60 Hz display, the commonest refresh rate.
+constexpr std::chrono::milliseconds kFrame{16};
 constexpr std::int32_t kChooserFlags =
     OFN_EXPLORER | OFN_FILEMUSTEXIST | OFN_PATHMUSTEXIST | OFN_HIDEREADONLY;
 
@@ -33,6 +35,11 @@ void MainWindow::ShowProgress(int position, int count, const platform::Picture& 
   statusStrip_->SetPicture(background);
   shownProgress_ = core::ProgressText(loadingText_, position, count);
   DrawCaption(*statusStrip_, shownProgress_, WindowText::kLeave);
+  // Each step is drawn into the strip's image, but the screen is given at
+  // most one frame of it per refresh of the display, and always the last.
+  const auto now = std::chrono::steady_clock::now();
+  if (position < count && now - progressPresented_ < kFrame) return;
+  progressPresented_ = now;
   statusStrip_->Refresh();
 }
 
