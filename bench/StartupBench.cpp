@@ -25,6 +25,7 @@ constexpr UINT kAnswerLimitMs = 10000;
 constexpr char kMainWindowClass[] = "MorvaneForm";
 constexpr char kMainWindowTitle[] = "Morvane";
 constexpr char kMinimalClass[] = "MorvaneBenchMinimal";
+constexpr int kMinimalListId = 1;
 
 bool StartsWith(const std::string& text, const std::string& start) {
   return text.rfind(start, 0) == 0;
@@ -73,8 +74,14 @@ StartupSamples MeasureStartup(const std::string& morvaneExe, const std::string& 
                                  &items) &&
            static_cast<int>(items) == listedIcons;
   };
+  // Watched as Morvane is: shown, and its list answering with its one item.
   auto minimalReady = [](HWND window) {
-    return testing_support::ClassName(window) == kMinimalClass;
+    DWORD_PTR items = 0;
+    HWND list = ::GetDlgItem(window, kMinimalListId);
+    return testing_support::ClassName(window) == kMinimalClass && list &&
+           ::SendMessageTimeoutA(list, LVM_GETITEMCOUNT, 0, 0, SMTO_NORMAL, kAnswerLimitMs,
+                                 &items) &&
+           items == 1;
   };
   const std::string morvaneLine = "\"" + morvaneExe + "\" " + targetFolder;
   const std::string minimalLine = "\"" + minimalExe + "\"";

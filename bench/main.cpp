@@ -29,6 +29,8 @@
 namespace {
 
 constexpr int kDefaultRuns = 5;
+// Start-up may take this many times what the minimal program takes.
+constexpr double kStartupGoal = 1.5;
 constexpr int kLeakLoads = 20;
 constexpr char kLeakLibrary[] = "ICONS1234.DLL";
 constexpr const char* kLibraries[] = {"ICONS120.DLL", "ICONS1234.DLL", "ICONS5000.DLL"};
@@ -202,10 +204,10 @@ void PrintStartupTable(const bench::StartupSamples& startup, int shippedIcons, d
                        double laterLoads, int runs) {
   const double minimal = bench::Median(startup.minimalMs);
   const double morvane = bench::Median(startup.morvaneMs);
-  const double bound = 2 * minimal + firstLoad;
+  const double bound = kStartupGoal * minimal;
   std::printf("\n### Start-up (median of %d runs of each, taken in turns)\n\n", runs);
   std::printf("| Measure | ms |\n|---|---|\n");
-  std::printf("| Minimal Win32 program: process start to its window shown | %s |\n",
+  std::printf("| Minimal Win32 program: process start to its list of one item shown | %s |\n",
               Fixed(minimal).c_str());
   std::printf("| Morvane: process start to the main window shown, %d icons listed | %s |\n",
               shippedIcons, Fixed(morvane).c_str());
@@ -213,7 +215,7 @@ void PrintStartupTable(const bench::StartupSamples& startup, int shippedIcons, d
               kShippedLibrary, Fixed(firstLoad).c_str());
   std::printf("| Load of \"%s\", later loads (median) | %s |\n", kShippedLibrary,
               Fixed(laterLoads).c_str());
-  std::printf("| Goal: 2 x minimal + first load | %s |\n", Fixed(bound).c_str());
+  std::printf("| Goal: 1.5 x minimal | %s |\n", Fixed(bound).c_str());
   std::printf("| Morvane / minimal | %s |\n", Ratio(morvane, minimal).c_str());
   std::printf("| Morvane / goal | %s |\n", Ratio(morvane, bound).c_str());
   if (startup.failures) {
