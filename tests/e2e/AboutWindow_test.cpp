@@ -44,8 +44,6 @@ TEST(AboutWindow, OpensFromTheHelpLinkItsButtonsAskForTheirPagesAndOkClosesIt) {
   Click(run.main, kHelpLink);
   HWND about = run.WaitForWindow("MorvaneForm", "frmSplash");
   ASSERT_NE(about, nullptr);
-  for (int button : {ids::kUpdate, ids::kWebPage, ids::kHelp, ids::kOk})
-    EXPECT_TRUE(::IsWindowVisible(::GetDlgItem(about, button))) << button;
   HWND ok = ::GetDlgItem(about, ids::kOk);
   Click(ok, Centre(ok), true);  // only a left click closes: the presses below prove it open
 
