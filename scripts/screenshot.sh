@@ -28,6 +28,7 @@ splash_copy=$(mktemp -d)
 cp "$build_dir"/dist/* "$splash_copy/"
 cp "$build_dir/tests/ICONS1234.DLL" "$splash_copy/iconos.dll"
 wine "$splash_copy/Morvane.exe" "${words[@]}" &
+splash_run=$!
 splash=$(timeout 20 xdotool search --sync --onlyvisible --name '^frmSplash$' | head -n 1)
 sleep 1.5
 # Without a window manager nothing keeps a topmost window above one that Wine
@@ -36,7 +37,8 @@ xdotool windowraise "$splash"
 sleep 0.5
 /usr/bin/import -window root -crop 442x323+291+222 +repage "$repo_root/docs/splash.png"
 wine taskkill /im Morvane.exe >/dev/null 2>&1 || true
-wait
+# Only that run: a plain wait would wait for the X server too.
+wait "$splash_run" || true
 rm -rf "$splash_copy"
 
 wine "$build_dir/dist/Morvane.exe" "${words[@]}" &
@@ -54,3 +56,31 @@ xdotool mousemove 766 227 click 1 sleep 1.5 mousemove 5 5 sleep 0.5
 # Its OK button, then the main window's exit button: an orderly end.
 xdotool mousemove 654 525 click 1 sleep 1 mousemove 755 572 click 1 sleep 1
 echo "docs/splash.png docs/main-window.png docs/about-window.png"
+
+# docs/managed-window.png: Morvane under a window manager (openbox) with
+# Wine's default Managed=Y, clicked back in front of another program's
+# window: its shadow lies right beneath it, over the other window.
+managed_window_screenshot() {
+  start_window_manager
+  unmanaged_windows Y
+  wine "$build_dir/dist/Morvane.exe" "${words[@]}" &
+  local morvane=$!
+  # Polled: a search can meet a window that Wine destroys meanwhile.
+  timeout 30 bash -c "until xdotool search --onlyvisible --name '^Morvane - '; do sleep 0.2; done" \
+    >/dev/null 2>&1
+  sleep "${MORVANE_SCREENSHOT_DELAY:-6}"
+  xmessage -geometry 330x190+650+430 "Another program's window" &
+  local other=$!
+  sleep 1
+  # The status strip, pressed as a user would to bring Morvane back.
+  xdotool mousemove 641 572 click 1 sleep 1 mousemove 5 5 sleep 1
+  /usr/bin/import -window root -crop 787x480+213+160 +repage "$repo_root/docs/managed-window.png"
+  kill "$other"
+  # The exit button: an orderly end.
+  xdotool mousemove 755 572 click 1
+  wait "$morvane" || true
+  unmanaged_windows N
+  stop_window_manager
+  echo "docs/managed-window.png"
+}
+managed_window_screenshot
