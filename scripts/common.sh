@@ -81,6 +81,63 @@ stop_virtual_display() {
   fi
 }
 
+wm_pid=""
+# Starts Debian's openbox on the display, as a desktop would run a window
+# manager, and returns once it manages windows.
+start_window_manager() {
+  local log="$build_dir/openbox.log"
+  openbox --sm-disable >"$log" 2>&1 &
+  wm_pid=$!
+  for _ in $(seq 100); do
+    xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id' && return 0
+    sleep 0.1
+  done
+  echo "openbox did not start:" >&2
+  cat "$log" >&2
+  return 1
+}
+
+stop_window_manager() {
+  if [ -n "$wm_pid" ]; then
+    kill "$wm_pid" 2>/dev/null || true
+    wait "$wm_pid" 2>/dev/null || true
+    wm_pid=""
+  fi
+}
+
+relay_pid=""
+# Input sent with SendInput stays inside Wine: a window manager never sees
+# it. While this relay runs, the end-to-end tests write their mouse input to
+# its pipe (MORVANE_X_INPUT, a Windows path) as "X Y FLAGS", FLAGS being
+# SendInput's button flags, and it goes through X instead.
+start_x_input_relay() {
+  local pipe="$build_dir/x-input"
+  rm -f "$pipe"
+  mkfifo "$pipe"
+  # Open for writing too, so that the loop sees no end between writers.
+  while read -r x y flags; do
+    local buttons=()
+    ((flags & 0x02)) && buttons+=(mousedown 1)
+    ((flags & 0x04)) && buttons+=(mouseup 1)
+    ((flags & 0x08)) && buttons+=(mousedown 3)
+    ((flags & 0x10)) && buttons+=(mouseup 3)
+    xdotool mousemove "$x" "$y" "${buttons[@]}" || true
+  done <>"$pipe" &
+  relay_pid=$!
+  MORVANE_X_INPUT=$(winepath -w "$pipe")
+  export MORVANE_X_INPUT
+}
+
+stop_x_input_relay() {
+  if [ -n "$relay_pid" ]; then
+    kill "$relay_pid" 2>/dev/null || true
+    wait "$relay_pid" 2>/dev/null || true
+    relay_pid=""
+  fi
+  unset MORVANE_X_INPUT
+  rm -f "$build_dir/x-input"
+}
+
 # Runs a Windows command line exactly as written. Given separate arguments,
 # Wine rebuilds the line and quotes every argument that holds a blank; its
 # cmd runs a line as written, and a variable expanded after the line is

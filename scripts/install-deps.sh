@@ -7,7 +7,7 @@ packages=(
   g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 mingw-w64-tools
   cmake make googletest
   wine wine64 fonts-wine
-  xvfb xauth x11-utils xdotool
+  xvfb xauth x11-utils xdotool openbox
   python3-fonttools python3-pil fonts-dejavu-core
   imagemagick icoutils attr nsis
 )

@@ -104,3 +104,31 @@ xdotool mousemove 766 227 click 1 sleep 1.5 mousemove 5 5 sleep 0.5
 xdotool mousemove 654 525 click 1 sleep 1 mousemove 755 572 click 1
 wait "$morvane" || true
 echo "docs/splash.png docs/main-window.png docs/about-window.png"
+
+# docs/managed-window.png: Morvane under a window manager (openbox) with
+# Wine's default Managed=Y, clicked back in front of another program's
+# window: its shadow lies right beneath it, over the other window.
+managed_window_screenshot() {
+  start_window_manager
+  unmanaged_windows Y
+  wine "$build_dir/dist/Morvane.exe" "${words[@]}" &
+  local morvane=$!
+  # Polled: a search can meet a window that Wine destroys meanwhile.
+  timeout 30 bash -c "until xdotool search --onlyvisible --name '^Morvane - '; do sleep 0.2; done" \
+    >/dev/null 2>&1
+  sleep "${MORVANE_SCREENSHOT_DELAY:-6}"
+  xmessage -geometry 330x190+650+430 "Another program's window" &
+  local other=$!
+  sleep 1
+  # The status strip, pressed as a user would to bring Morvane back.
+  xdotool mousemove 641 572 click 1 sleep 1 mousemove 5 5 sleep 1
+  /usr/bin/import -window root -crop 787x480+213+160 +repage "$repo_root/docs/managed-window.png"
+  kill "$other"
+  # The exit button: an orderly end.
+  xdotool mousemove 755 572 click 1
+  wait "$morvane" || true
+  unmanaged_windows N
+  stop_window_manager
+  echo "docs/managed-window.png"
+}
+managed_window_screenshot

@@ -353,6 +353,10 @@ LRESULT Form::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       return 1;
     }
     case WM_ACTIVATE: OnActivateMessage(LOWORD(wParam)); return 0;
+    // Wine activates a clicked window whatever its style says.
+    case WM_MOUSEACTIVATE:
+      if (ExtendedStyle() & WS_EX_NOACTIVATE) return MA_NOACTIVATE;
+      return Default(message, wParam, lParam);
     case WM_TIMER:
       for (const Timer& timer : timers_) {
         if (static_cast<WPARAM>(timer.id) == wParam && timer.onTick) timer.onTick();

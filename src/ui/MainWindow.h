@@ -59,6 +59,7 @@ class MainWindow : public toolkit::Form {
   void OnPaint(HDC dc) override;
   void OnMouseDown(const toolkit::MouseEvent& event) override;
   void OnMouseMove(const toolkit::MouseEvent& event) override;
+  void OnActivate() override;
 
  private:
   void CreateLabelPair(const std::string& name, const toolkit::TwipsRect& twips);

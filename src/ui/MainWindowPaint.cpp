@@ -50,4 +50,10 @@ void MainWindow::OnMouseMove(const toolkit::MouseEvent&) {
   Tile();
 }
 
+// Whatever brought the window forward, a window manager or the system, may
+// have left the shadow behind other windows.
+void MainWindow::OnActivate() {
+  shadow_.StandBeneath();
+}
+
 }  // namespace ui

@@ -35,11 +35,33 @@ void ShadowWindow::OnMouseDown(const toolkit::MouseEvent&) {
   if (mainWindow_.Loaded()) ::SetForegroundWindow(mainWindow_.Hwnd());
 }
 
+// Wine restacks a window on the X side only when it becomes the topmost
+// window, and an owner never rises above what it owns. So the main window
+// lets go of its shadow while the shadow rises, then takes it back, which
+// raises it above the shadow. A window manager keeps the main window, the
+// shadow's transient, above the shadow as it raises it.
+void ShadowWindow::StandBeneath() {
+  if (!Visible() || !mainWindow_.Visible()) return;
+  mainWindow_.SetOwner(nullptr);
+  ::SetWindowPos(Hwnd(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  mainWindow_.SetOwner(this);
+}
+
+bool ShadowWindow::RightBeneath() const {
+  HWND next = mainWindow_.Hwnd();
+  while ((next = ::GetWindow(next, GW_HWNDNEXT)) && !::IsWindowVisible(next)) continue;
+  return next == Hwnd();
+}
+
+// Placed behind the main window in the same call: under Wine, moving the
+// shadow alone, or the main window's own move loop, can leave it above.
 void ShadowWindow::Follow() {
   if (!mainWindow_.Loaded()) return;
   const int left = mainWindow_.Left() + kOffsetTwips;
   const int top = mainWindow_.Top() + kOffsetTwips;
-  if (left != Left() || top != Top()) Move(left, top);
+  if (left == Left() && top == Top() && RightBeneath()) return;
+  ::SetWindowPos(Hwnd(), mainWindow_.Hwnd(), toolkit::Screen::TwipsToPixelsX(left),
+                 toolkit::Screen::TwipsToPixelsY(top), 0, 0, SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
 }  // namespace ui

@@ -12,6 +12,10 @@ class ShadowWindow : public toolkit::Form {
  public:
   explicit ShadowWindow(toolkit::Form& mainWindow);
 
+  // Puts the shadow right beneath the main window, above whatever else
+  // stands there, without activating either.
+  void StandBeneath();
+
  protected:
   DWORD ExtendedStyle() const override;
   bool ActivatesOnShow() const override { return false; }
@@ -20,6 +24,8 @@ class ShadowWindow : public toolkit::Form {
   void OnMouseDown(const toolkit::MouseEvent& event) override;
 
  private:
+  // Whether the next window shown below the main window is the shadow.
+  bool RightBeneath() const;
   void Follow();
   toolkit::Form& mainWindow_;
 };

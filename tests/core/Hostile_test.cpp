@@ -187,7 +187,6 @@ std::vector<HostileCase> Cases() {
                  "entry 2 300 chars; saved"),
       RecentFile("a folder named ARA.INI", MakeFolder, "entry 2 \"\"; lost", false),
       PictureLibrary("Resource.DLL cut in half", pictures.substr(0, pictures.size() / 2)),
-      PictureLibrary("Resource.DLL of zero bytes", ""),
       IconSource("icon library cut in half", "half.dll",
                  Bytes(library.substr(0, library.size() / 2)), 0),
       IconSource("resource table past the end", "past.dll", Bytes(ResourceTablePastTheEnd(library)),

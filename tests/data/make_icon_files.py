@@ -3,7 +3,8 @@
 icons.ico (16, 32 and 48 pixels; the 32 pixel image a checkerboard of opaque
 and transparent 4 x 4 squares), notes.txt (no icons), NOICONS.rc (a library
 without icons) and for each COUNT an ICONS<n>.rc of n icons, identifiers 1 to
-n, whose icon at position i has the centre pixel RGB(i % 256, i // 256, 0).
+n, whose icon at position i has the centre pixel RGB(i % 256, i // 256, 0);
+and for the test resource library test.bmp, test.cur and two data blobs.
 Usage: make_icon_files.py OUTDIR COUNT..."""
 
 import colorsys
@@ -16,9 +17,10 @@ SIZE = 32
 CENTRE = 16
 
 
-def ico_file(images):
-    """An .ico holding 32-bit DIB images with AND masks; `images` are
-    (size, pixels) with pixels a list of rows of (r, g, b, a), top row first."""
+def ico_file(images, kind=1):
+    """An .ico (kind 1) or .cur (kind 2, hot spot 0, 0) holding 32-bit DIB
+    images with AND masks; `images` are (size, pixels) with pixels a list of
+    rows of (r, g, b, a), top row first."""
     blobs = []
     for size, rows in images:
         header = struct.pack("<IiiHHIIiiII", 40, size, size * 2, 1, 32, 0, 0, 0, 0, 0, 0)
@@ -32,10 +34,12 @@ def ico_file(images):
                     bits[x // 8] |= 0x80 >> (x % 8)
             mask += bits
         blobs.append((size, header + colour + mask))
-    out = bytearray(struct.pack("<HHH", 0, 1, len(blobs)))
+    out = bytearray(struct.pack("<HHH", 0, kind, len(blobs)))
     offset = 6 + 16 * len(blobs)
+    planes_bits_or_hot_spot = (1, 32) if kind == 1 else (0, 0)
     for size, blob in blobs:
-        out += struct.pack("<BBBBHHII", size % 256, size % 256, 0, 0, 1, 32, len(blob), offset)
+        out += struct.pack("<BBBBHHII", size % 256, size % 256, 0, 0, *planes_bits_or_hot_spot,
+                           len(blob), offset)
         offset += len(blob)
     for _, blob in blobs:
         out += blob
@@ -63,6 +67,13 @@ def numbered_icon(index):
     return bytes(data)
 
 
+def bmp_24(width, height, rgb):
+    row = bytes(rgb[::-1]) * width
+    pixels = (row + b"\0" * ((4 - len(row) % 4) % 4)) * height
+    return (struct.pack("<2sIHHI", b"BM", 54 + len(pixels), 0, 0, 54) + struct.pack(
+        "<IiiHHIIiiII", 40, width, height, 1, 24, 0, len(pixels), 2835, 2835, 0, 0) + pixels)
+
+
 def write(path, data):
     with open(path, "wb" if isinstance(data, bytes) else "w") as f:
         f.write(data)
@@ -74,6 +85,11 @@ def main(argv):
     os.makedirs(os.path.join(out, "numbered"), exist_ok=True)
     write(os.path.join(out, "icons.ico"), ico_file([(n, checkerboard(n)) for n in (16, 32, 48)]))
     write(os.path.join(out, "notes.txt"), "No icons in here.\r\n")
+    write(os.path.join(out, "test.bmp"), bmp_24(8, 4, (10, 200, 30)))
+    write(os.path.join(out, "test.cur"), ico_file([(32, checkerboard(32))], kind=2))
+    # Bytes 0 and 255 check that raw data travels unchanged, NUL included.
+    write(os.path.join(out, "blob.bin"), bytes([0x4D, 0x00, 0xFF, 0x0A, 0x80, 0x41]))
+    write(os.path.join(out, "empty.bin"), b"")
     write(os.path.join(out, "NOICONS.rc"),
           "// A resource library without icons.\nSTRINGTABLE\nBEGIN\n  1 \"no icons\"\nEND\n")
     for i in range(max(counts, default=0)):

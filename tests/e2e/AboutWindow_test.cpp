@@ -44,8 +44,6 @@ TEST(AboutWindow, OpensFromTheHelpLinkItsButtonsAskForTheirPagesAndOkClosesIt) {
   Click(run.main, kHelpLink);
   HWND about = run.WaitForWindow("MorvaneForm", "frmSplash");
   ASSERT_NE(about, nullptr);
-  for (int button : {ids::kUpdate, ids::kWebPage, ids::kHelp, ids::kOk})
-    EXPECT_TRUE(::IsWindowVisible(::GetDlgItem(about, button))) << button;
   HWND ok = ::GetDlgItem(about, ids::kOk);
   Click(ok, Centre(ok), true);  // only a left click closes: the presses below prove it open
 
@@ -88,9 +86,10 @@ TEST(Splash, StandsOverTheMainWindowButNotOverOtherPrograms) {
   HWND splash = nullptr, shadow = nullptr;
   ASSERT_TRUE(WaitUntil([&] {
     for (HWND window : run.Windows()) {
-      if (ClassOf(window) != "MorvaneForm") continue;
       const std::string title = Text(window);
-      (title == "frmSplash" ? splash : title == "frmShadow" ? shadow : run.main) = window;
+      if (title == "frmSplash") splash = window;
+      if (title == "frmShadow") shadow = window;
+      if (title.rfind("Morvane - ", 0) == 0) run.main = window;
     }
     return splash && shadow && run.main;
   }));

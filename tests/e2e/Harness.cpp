@@ -2,6 +2,7 @@
 
 #include <commctrl.h>
 
+#include <cstdlib>
 #include <fstream>
 #include <functional>
 #include <sstream>
@@ -38,15 +39,33 @@ void DeleteTree(const std::string& folder) {
   ::RemoveDirectoryA(folder.c_str());
 }
 
-// Wine maps absolute input coordinates back as x * width / 65536.
-INPUT MouseAt(POINT screen, DWORD flags) {
+// SendInput stays inside Wine, unseen by a window manager: while the test
+// script relays input through X, its pipe (MORVANE_X_INPUT) takes it instead.
+void SendMouse(POINT screen, DWORD buttons = 0) {
+  if (const char* relay = std::getenv("MORVANE_X_INPUT")) {
+    std::ofstream(relay, std::ios::binary) << screen.x << " " << screen.y << " " << buttons << "\n";
+    return;
+  }
   INPUT input{};
   input.type = INPUT_MOUSE;
+  // Wine maps absolute input coordinates back as x * width / 65536.
   const LONG width = ::GetSystemMetrics(SM_CXSCREEN), height = ::GetSystemMetrics(SM_CYSCREEN);
   input.mi.dx = (screen.x * 65536 + width - 1) / width;
   input.mi.dy = (screen.y * 65536 + height - 1) / height;
-  input.mi.dwFlags = flags | MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
-  return input;
+  input.mi.dwFlags = buttons | MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
+  ::SendInput(1, &input, sizeof input);
+}
+
+std::string ClassOf(HWND window) {
+  char buffer[256] = {};
+  return std::string(buffer, std::max(0, ::GetClassNameA(window, buffer, sizeof buffer)));
+}
+
+std::vector<HWND> TopWindows() {  // the visible ones
+  std::vector<HWND> found;
+  for (HWND w = ::GetWindow(::GetDesktopWindow(), GW_CHILD); w; w = ::GetWindow(w, GW_HWNDNEXT))
+    if (::IsWindowVisible(w)) found.push_back(w);
+  return found;
 }
 
 void SendKey(WORD virtualKey, WORD scan, DWORD flags) {
@@ -110,18 +129,6 @@ std::string ControlText(HWND control) {
   return text;
 }
 
-std::string ClassOf(HWND window) {
-  char buffer[256] = {};
-  return std::string(buffer, std::max(0, ::GetClassNameA(window, buffer, sizeof buffer)));
-}
-
-std::vector<HWND> TopWindows() {
-  std::vector<HWND> found;
-  for (HWND w = ::GetWindow(::GetDesktopWindow(), GW_CHILD); w; w = ::GetWindow(w, GW_HWNDNEXT))
-    if (::IsWindowVisible(w)) found.push_back(w);
-  return found;
-}
-
 bool CrashWindowShown() {
   for (HWND window : TopWindows())
     if (Text(window).rfind("Program Error", 0) == 0) return ::PostMessageA(window, WM_CLOSE, 0, 0);
@@ -148,16 +155,15 @@ bool ShowsSystemIcon(HWND icon, LPCSTR which) {
   HDC screen = ::GetDC(nullptr), memory = ::CreateCompatibleDC(screen);
   HBITMAP bitmap = ::CreateCompatibleBitmap(screen, size, size);
   HGDIOBJ old = ::SelectObject(memory, bitmap);
-  HBRUSH background = ::CreateSolidBrush(::GetPixel(screen, place.left, place.top));
+  ::SetDCBrushColor(memory, ::GetPixel(screen, place.left, place.top));
   const RECT all{0, 0, size, size};
-  ::FillRect(memory, &all, background);
+  ::FillRect(memory, &all, static_cast<HBRUSH>(::GetStockObject(DC_BRUSH)));
   ::DrawIconEx(memory, 0, 0, ::LoadIconA(nullptr, which), size, size, 0, nullptr, DI_NORMAL);
   bool same = true;
   for (int n = 0; n < size * size && same; ++n)
     same = ::GetPixel(memory, n % size, n / size) ==
            ::GetPixel(screen, place.left + n % size, place.top + n / size);
   ::DeleteObject(::SelectObject(memory, old));
-  ::DeleteObject(background);
   ::DeleteDC(memory);
   ::ReleaseDC(nullptr, screen);
   return same;
@@ -170,18 +176,40 @@ void Answer(HWND box, int button) {
 
 void Click(HWND window, POINT at, bool rightButton, int times) {
   ::ClientToScreen(window, &at);
-  std::vector<INPUT> inputs;
   for (int n = 0; n < times; ++n) {
-    inputs.push_back(MouseAt(at, rightButton ? MOUSEEVENTF_RIGHTDOWN : MOUSEEVENTF_LEFTDOWN));
-    inputs.push_back(MouseAt(at, rightButton ? MOUSEEVENTF_RIGHTUP : MOUSEEVENTF_LEFTUP));
+    SendMouse(at, rightButton ? MOUSEEVENTF_RIGHTDOWN : MOUSEEVENTF_LEFTDOWN);
+    SendMouse(at, rightButton ? MOUSEEVENTF_RIGHTUP : MOUSEEVENTF_LEFTUP);
   }
-  ::SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
 }
 
 void MovePointer(HWND window, POINT at) {
   if (window) ::ClientToScreen(window, &at);
-  INPUT move = MouseAt(at, 0);
-  ::SendInput(1, &move, sizeof move);
+  SendMouse(at);
+}
+
+COLORREF ScreenPixel(POINT at) {
+  HDC screen = ::GetDC(nullptr);
+  const COLORREF colour = ::GetPixel(screen, at.x, at.y);
+  ::ReleaseDC(nullptr, screen);
+  return colour;
+}
+
+bool Drag(HWND window, POINT from, SIZE by) {
+  ::ClientToScreen(window, &from);
+  const POINT half{from.x + by.cx / 2, from.y + by.cy / 2}, to{from.x + by.cx, from.y + by.cy};
+  auto look = [](POINT at) { return std::pair{ScreenPixel(at), ScreenPixel({at.x + 2, at.y})}; };
+  const auto grabbed = look(from);
+  SendMouse(from, MOUSEEVENTF_LEFTDOWN);
+  // A move starts once the program has the press, and a window manager tells
+  // Wine where the window went only on the release: so the screen tells.
+  bool all = false;
+  const bool followed =
+      WaitUntil([&] { return SendMouse((all = !all) ? to : half), look(to) == grabbed; });
+  // The system's move loop ends on the release without looking where it is.
+  SendMouse(to);
+  const bool arrived = WaitUntil([&] { return look(to) == grabbed; });
+  SendMouse(to, MOUSEEVENTF_LEFTUP);
+  return followed && arrived;
 }
 
 void Type(const std::string& text) {
@@ -272,12 +300,6 @@ void ProgramRun::Start(const std::string& arguments) {
 bool ProgramRun::Open(int icons) {
   Start(Target());
   return WaitForMain() && WaitUntil([&] { return IconCount() >= icons; });
-}
-
-bool Above(HWND upper, HWND lower) {
-  for (HWND below = ::GetWindow(upper, GW_HWNDNEXT); below; below = ::GetWindow(below, GW_HWNDNEXT))
-    if (below == lower) return true;
-  return false;
 }
 
 HWND ProgramRun::WaitForMain() {

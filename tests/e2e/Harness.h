@@ -30,8 +30,6 @@ std::string IniValue(const std::string& file, const char* section, const char* k
 std::string LibraryString(const std::string& library, int id);
 std::string Text(HWND window);
 std::string ControlText(HWND control);  // what a text box holds, through the box
-std::string ClassOf(HWND window);
-std::vector<HWND> TopWindows();  // visible ones
 // Closes Wine's "Program Error" window, shown when a process dies of an exception.
 bool CrashWindowShown();
 
@@ -54,14 +52,16 @@ MessageBoxView Read(HWND box);
 bool ShowsSystemIcon(HWND icon, LPCSTR which);
 void Answer(HWND box, int button);
 
-// Input through the system's queue at a point of a window's client area.
+// Mouse input at a point of a window's client area (through X when relayed).
 void Click(HWND window, POINT at, bool rightButton = false, int times = 1);
 void MovePointer(HWND window, POINT at);  // no window: screen coordinates
+// Drags the window by `by` from `from`; true once the screen shows it followed.
+bool Drag(HWND window, POINT from, SIZE by);
+COLORREF ScreenPixel(POINT at);
 void Type(const std::string& text);
 void PressKey(WORD virtualKey);
 POINT Centre(HWND window);
-bool Above(HWND upper, HWND lower);  // in the z-order
-HWND FocusWindow();                  // of whichever process has the foreground
+HWND FocusWindow();  // of whichever process has the foreground
 
 // A scratch folder holding "program\" (a copy of the shipping folder) and
 // "target\" (the folder to customise), and a run of Morvane.exe on them.

@@ -60,8 +60,7 @@ wine_command_line "${command/\%1/"$windows_folder"}" &
 morvane=$!
 # Waits up to $1 quarter-seconds for the command after it to succeed.
 within() {
-  local n
-  for n in $(seq "$1"); do "${@:2}" && return 0; sleep 0.25; done
+  for _ in $(seq "$1"); do "${@:2}" && return 0; sleep 0.25; done
   return 1
 }
 within 80 xdotool search --onlyvisible --name '^Morvane - ' >/dev/null 2>&1 ||

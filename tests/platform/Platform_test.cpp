@@ -31,24 +31,18 @@ TEST(IniFile, ValuesRoundTripAndMissingOnesAreEmpty) {
   EXPECT_EQ(platform::ReadIniValue("s", "k", file), "spaced value") << "names ignore case";
 }
 
-TEST(ResourceLibrary, StringsAreCutAndMissingOnesRecorded) {
-  platform::ResourceLibrary library;
-  library.Open(TestFolder() + "TESTRES.DLL");
-  EXPECT_EQ(library.String(TEST_STR_HELLO), "Hello");
-  EXPECT_EQ(library.String(TEST_STR_HELLO, 3), "Hel");
-  EXPECT_EQ(library.String(TEST_STR_300).substr(250), "01234");
-  EXPECT_EQ(library.String(TEST_STR_300).size(), 255u);
-  EXPECT_EQ(library.LastError().number, 0);
-  EXPECT_EQ(library.String(TEST_STR_MISSING), "");
-  EXPECT_EQ(Failure(library), "326 String resource with identifier 13 not found.");
-}
-
-TEST(ResourceLibrary, DataTravelsByteForByte) {
+TEST(ResourceLibrary, StringsAreCutDataTravelsByteForByteAndMissingOnesAreRecorded) {
   platform::ResourceLibrary library;
   library.Open(TestFolder() + "TESTRES.DLL");
   EXPECT_EQ(library.Data(TEST_BLOB), kBlob);
   EXPECT_EQ(library.Data(TEST_EMPTY_BLOB), "");
+  EXPECT_EQ(library.String(TEST_STR_HELLO), "Hello");
+  EXPECT_EQ(library.String(TEST_STR_HELLO, 3), "Hel");
+  EXPECT_EQ(library.String(TEST_STR_300).substr(250), "01234");
+  EXPECT_EQ(library.String(TEST_STR_300).size(), 255u);
   EXPECT_EQ(library.LastError().number, 0) << "an empty resource is no error";
+  EXPECT_EQ(library.String(TEST_STR_MISSING), "");
+  EXPECT_EQ(Failure(library), "326 String resource with identifier 13 not found.");
   EXPECT_EQ(library.Data(6999), "");
   EXPECT_EQ(Failure(library), "326 Custom resource with identifier 6999 not found.");
 }

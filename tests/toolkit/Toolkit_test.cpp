@@ -62,7 +62,7 @@ class ToolkitTest : public ::testing::Test {
   TestForm form_;
 };
 
-TEST_F(ToolkitTest, OnlyPersistentDrawingGoesIntoTheImageAndReachesTheScreen) {
+TEST_F(ToolkitTest, OnlyPersistentDrawingIsKeptUntilANewPictureErasesIt) {
   form_.box->SetAutoRedraw(false);
   MarkCorner(kRed);
   EXPECT_EQ(PicturePixel(form_.box->Image(), 0, 0), kBack);
@@ -72,11 +72,7 @@ TEST_F(ToolkitTest, OnlyPersistentDrawingGoesIntoTheImageAndReachesTheScreen) {
   EXPECT_EQ(PicturePixel(form_.box->Image(), 0, 0), kRed);
   EXPECT_EQ(PicturePixel(form_.box->Image(), 10, 10), kBack);
   EXPECT_EQ(OnScreen(1, 1), kRed);
-}
-
-TEST_F(ToolkitTest, ANewPictureErasesTheDrawingAndReleasesTheOldOne) {
-  form_.box->SetAutoRedraw(true);
-  MarkCorner(kRed);
+  // A new picture erases the drawing; the surface releases the one it held.
   platform::Picture green = SolidPicture(8, kGreen);
   HANDLE handle = green.Handle();
   form_.box->SetPicture(std::move(green));
