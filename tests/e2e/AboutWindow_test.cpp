@@ -77,6 +77,12 @@ TEST(AboutWindow, OpensFromTheHelpLinkItsButtonsAskForTheirPagesAndOkClosesIt) {
   EXPECT_TRUE(run.Close()) << "the main window goes on";
 }
 
+bool Above(HWND upper, HWND lower) {  // in the z-order
+  for (HWND below = ::GetWindow(upper, GW_HWNDNEXT); below; below = ::GetWindow(below, GW_HWNDNEXT))
+    if (below == lower) return true;
+  return false;
+}
+
 // A slow start-up (1234 icons to list) leaves time to look at the windows
 // while the icons load.
 TEST(Splash, StandsOverTheMainWindowButNotOverOtherPrograms) {

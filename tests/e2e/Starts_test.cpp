@@ -232,6 +232,8 @@ TEST(Start, HostileInputEndsCleanlyAndKeepsEveryFile) {
 // language library, Desktop.ini, ARA.INI and its own text box read back.
 TEST(Start, OverLongAndMalformedTextsEndAsDesigned) {
   const std::string deep = std::string(600, 'd'), huge = std::string(30000, 'h');
+  // Binary bytes of every value, NULs and line ends among them.
+  const std::string garbage = ReadFile(TestFolder() + "..\\dist\\Resource.DLL").substr(4096, 3000);
   std::string tip = "A tip";
   while (tip.size() < 30006) tip += " word";  // one long word would wrap in seconds
   const Case cases[] = {
@@ -246,7 +248,7 @@ TEST(Start, OverLongAndMalformedTextsEndAsDesigned) {
        Ending::Orderly},
       {"a type face of 5000 characters",
        Writes("Config.ini", "[Config]\r\nFont=" + std::string(5000, 'F') + "\r\n"), Ending::Main},
-      {"a language library of garbage", Writes("LANG_ENG.DLL", Garbage(3000)), Ending::Orderly},
+      {"a language library of garbage", Writes("LANG_ENG.DLL", garbage), Ending::Orderly},
       {"IconFile of 600 characters, missing",
        InTarget("[.ShellClassInfo]\r\nIconFile=C:\\" + deep + ".ico\r\nIconIndex=0\r\n"),
        Ending::Main},
@@ -255,7 +257,7 @@ TEST(Start, OverLongAndMalformedTextsEndAsDesigned) {
                 "\r\n"),
        Ending::Main},
       {"ARA.INI with lines of 30000 characters, of garbage and without a key",
-       Writes("ARA.INI", "[Recent]\r\nARA01=" + huge + "\r\nARA02=" + Garbage(500) +
+       Writes("ARA.INI", "[Recent]\r\nARA01=" + huge + "\r\nARA02=" + garbage.substr(0, 500) +
                              "\r\nno key here\r\n" + std::string(40000, '=') + "\r\n"),
        Ending::Main},
       {"an info tip of 30010 characters: read as its first 29999, shown, applied",
