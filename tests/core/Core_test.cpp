@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 #include <shlobj.h>
 
-#include "core/ColourDepth.h"
 #include "core/DefaultFolderIcon.h"
 #include "core/FolderCustomisation.h"
 #include "core/IconBrowser.h"
@@ -50,19 +49,6 @@ TEST_F(FolderTest, AnExistingDesktopIniKeepsItsOtherKeysAndGetsNoMark) {
   EXPECT_EQ(ReadWholeFile(SettingsFile()),
             "[.ShellClassInfo]\r\nIconResource=x.dll,-3\r\nInfoTip=\r\nConfirmFileOp=5\r\n"
             "NoSharing=1\r\nIconFile=a.ico\r\nIconIndex=3\r\n");
-}
-
-TEST_F(FolderTest, BadNumbersLeaveTheirFieldsAndTheRestIsRead) {
-  WriteWholeFile(SettingsFile(),
-                 "[.ShellClassInfo]\r\nConfirmFileOp=yes\r\nNoSharing=2147483648\r\n"
-                 "IconFile= c:\\a.ico \r\nIconIndex= -4 \r\nInfoTip=two\r\n");
-  core::FolderSettings settings{9, 8, "", 0, ""};
-  core::ReadFolderSettings(Folder(), settings);
-  EXPECT_EQ(settings.confirmFileOp, 9);
-  EXPECT_EQ(settings.noSharing, 8);
-  EXPECT_EQ(settings.iconFile, "c:\\a.ico");
-  EXPECT_EQ(settings.iconIndex, -4);
-  EXPECT_EQ(settings.infoTip, "two");
 }
 
 TEST_F(FolderTest, ApplyMarksFileAndFolderAndAnnouncesBothInOrder) {
@@ -135,13 +121,6 @@ TEST(IconBrowserTexts, PathsToOpenAreTrimmedLoweredAndNeverTheLastOne) {
   }
 }
 
-TEST(IconBrowserTexts, StatusSaysHowManyIconsAndProgressSaysWhere) {
-  EXPECT_EQ(core::StatusText(1, "icons", "1 icon or none"), "1 icon or none");
-  EXPECT_EQ(core::StatusText(2, "icons", "1 icon or none"), "2 icons");
-  EXPECT_EQ(core::StatusText(1234, "icons", "few"), "1234 icons");
-  EXPECT_EQ(core::ProgressText("Loading", 7, 120), "Loading 7/120");
-}
-
 TEST(DefaultFolderIcon, LocationsSplitAtTheFirstComma) {
   struct Row {
     const char* location;
@@ -166,14 +145,6 @@ TEST(DefaultFolderIcon, LocationsSplitAtTheFirstComma) {
   EXPECT_EQ(core::DefaultFolderIcon(), (core::IconLocation{"c:\\icons\\f.dll", -7}));
   ::RegDeleteValueA(key, place.valueName.c_str());
   ::RegCloseKey(key);
-}
-
-TEST(ColourDepth, OnlyTwoShallowDepthsAskForDeeperIcons) {
-  EXPECT_TRUE(core::ShouldOfferDeeperIcons(8, 4));
-  EXPECT_TRUE(core::ShouldOfferDeeperIcons(15, 0));
-  EXPECT_FALSE(core::ShouldOfferDeeperIcons(16, 4));
-  EXPECT_FALSE(core::ShouldOfferDeeperIcons(8, 16));
-  EXPECT_FALSE(core::ShouldOfferDeeperIcons(32, 32));
 }
 
 }  // namespace

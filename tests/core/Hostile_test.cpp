@@ -14,7 +14,6 @@
 #include "platform/IconFile.h"
 #include "platform/IniFile.h"
 #include "platform/ResourceLibrary.h"
-#include "resource_ids.h"
 #include "support/TestSupport.h"
 
 namespace {
@@ -120,17 +119,6 @@ HostileCase RecentFile(std::string name, Make make, std::string expected, bool w
   return {name, core::kRecentFileName, make, routine, expected, writable};
 }
 
-HostileCase PictureLibrary(std::string name, std::string bytes) {
-  auto routine = [](const std::string&, const std::string& file) {
-    platform::ResourceLibrary library;
-    library.Open(file);
-    const bool nothing = !library.Bitmap(IDB_SKIN) && library.Data(IDR_FONT).empty();
-    return std::string(library.Name().empty() ? "not loaded" : "loaded") +
-           (nothing ? "; nothing found" : "; found something");
-  };
-  return {name, "Resource.DLL", Bytes(bytes), routine, "not loaded; nothing found", false};
-}
-
 HostileCase IconSource(std::string name, std::string file, Make make, int count) {
   auto routine = [](const std::string&, const std::string& path) {
     const platform::IconFile icons(path);
@@ -150,7 +138,6 @@ std::vector<HostileCase> Cases() {
   const std::string ini = "[.ShellClassInfo]\r\n";
   const std::string library = ReadWholeFile(TestFolder() + "ICONS120.DLL");
   const std::string icon = ReadWholeFile(TestFolder() + "icons.ico");
-  const std::string pictures = ReadWholeFile(testing_support::DistFolder() + "Resource.DLL");
   std::string many = icon;
   many[4] = many[5] = '\xFF';
   return {
@@ -186,8 +173,6 @@ std::vector<HostileCase> Cases() {
                  Bytes("[Recent]\r\nARA02=" + std::string(300, 'F') + "\r\n"),
                  "entry 2 300 chars; saved"),
       RecentFile("a folder named ARA.INI", MakeFolder, "entry 2 \"\"; lost", false),
-      PictureLibrary("Resource.DLL cut in half", pictures.substr(0, pictures.size() / 2)),
-      PictureLibrary("Resource.DLL of zero bytes", ""),
       IconSource("icon library cut in half", "half.dll",
                  Bytes(library.substr(0, library.size() / 2)), 0),
       IconSource("resource table past the end", "past.dll", Bytes(ResourceTablePastTheEnd(library)),

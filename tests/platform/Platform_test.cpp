@@ -23,14 +23,6 @@ std::string Failure(const platform::ResourceLibrary& library) {
   return std::to_string(library.LastError().number) + " " + library.LastError().description;
 }
 
-TEST(IniFile, ValuesRoundTripAndMissingOnesAreEmpty) {
-  ScratchFolder folder;
-  const std::string file = folder / "x.ini";
-  EXPECT_EQ(platform::ReadIniValue("S", "K", file), "");
-  EXPECT_TRUE(platform::WriteIniValue("S", "K", "  spaced value ", file));
-  EXPECT_EQ(platform::ReadIniValue("s", "k", file), "spaced value") << "names ignore case";
-}
-
 TEST(ResourceLibrary, StringsAreCutAndMissingOnesRecorded) {
   platform::ResourceLibrary library;
   library.Open(TestFolder() + "TESTRES.DLL");
