@@ -1,8 +1,7 @@
-// The user's roads through the main window: choosing, applying and removing
-// a folder's icon, the recent icon files and the icon browser's status.
+// The user's roads through the main window: applying and removing by
+// double-click, the recent icon files and the icon browser's status. The
+// road through the apply button is every name's (Unicode_test.cpp).
 #include <gtest/gtest.h>
-
-#include <algorithm>
 
 #include "Harness.h"
 #include "resource_ids.h"
@@ -23,38 +22,6 @@ std::string Settings(const ProgramRun& run, const char* key) {
 
 DWORD Attributes(const std::string& path) {
   return ::GetFileAttributesA(path.c_str());
-}
-
-TEST(MainWindow, ApplyAsksAndOnlyYesWritesTheFileAndMarksFileAndFolder) {
-  ProgramRun run;
-  ASSERT_TRUE(run.Open());
-  ASSERT_TRUE(Pick(run, 5));
-
-  HWND question = ClickForBox(run, ids::kApply);
-  ASSERT_NE(question, nullptr);
-  EXPECT_EQ(Read(question).text, English(run, IDS_APPLY_PROMPT));
-  EXPECT_EQ(Read(question).title, English(run, IDS_CONFIRM_TITLE));
-  Answer(question, IDNO);
-  ASSERT_TRUE(WaitUntil([&] { return !::IsWindow(question); }));
-  // The next question shows that the No has been dealt with. Clicked a few
-  // pixels aside, so that the two clicks do not make a double-click.
-  HWND apply = run.Element(ids::kApply);
-  Click(apply, {Centre(apply).x + 3 * ::GetSystemMetrics(SM_CXDOUBLECLK), Centre(apply).y});
-  question = run.WaitForDialog();
-  ASSERT_NE(question, nullptr);
-  EXPECT_FALSE(IsFile(run.Target("Desktop.ini"))) << "No writes nothing";
-  EXPECT_EQ(Attributes(run.Target()) & FILE_ATTRIBUTE_SYSTEM, 0u);
-
-  Answer(question, IDYES);
-  ASSERT_TRUE(WaitUntil([&] {
-    return (Attributes(run.Target("Desktop.ini")) & kHiddenSystem) == kHiddenSystem &&
-           (Attributes(run.Target()) & FILE_ATTRIBUTE_SYSTEM);
-  }));
-  EXPECT_NE(Settings(run, "InfoTip"), "") << "the default info tip";
-  EXPECT_EQ(Settings(run, "IconFile") + "," + Settings(run, "IconIndex"),
-            run.File("iconos.dll") + ",4");
-  EXPECT_TRUE(::IsWindowVisible(run.main)) << "the window stays after applying from the button";
-  EXPECT_TRUE(run.Close());
 }
 
 TEST(MainWindow, DoubleClickingAnIconOrThePreviewAppliesWithoutAskingAndEnds) {
@@ -80,47 +47,22 @@ TEST(MainWindow, DoubleClickingAnIconOrThePreviewAppliesWithoutAskingAndEnds) {
   }
 }
 
-TEST(MainWindow, DoubleClickingTheDefaultIconAsksToRemoveAndEndsEitherWay) {
+// Yes is every name's road (Unicode_test.cpp).
+TEST(MainWindow, DoubleClickingTheDefaultIconAsksToRemoveAndEndsOnNoToo) {
   const std::string settings = "[.ShellClassInfo]\r\nIconIndex=3\r\n";
-  for (int answer : {IDYES, IDNO}) {
-    SCOPED_TRACE(answer == IDYES ? "Yes" : "No");
-    ProgramRun run;
-    WriteFile(run.Target("Desktop.ini"), settings);
-    ::SetFileAttributesA(run.Target("Desktop.ini").c_str(), kHiddenSystem);
-    ::SetFileAttributesA(run.Target().c_str(), FILE_ATTRIBUTE_SYSTEM);
-    ASSERT_TRUE(run.Open());
-    HWND question = ClickForBox(run, ids::kDefaultFolderIcon, 2);
-    ASSERT_NE(question, nullptr);
-    EXPECT_EQ(Read(question).text, English(run, IDS_REMOVE_PROMPT));
-    Answer(question, answer);
-    ASSERT_TRUE(run.Ended());
-    EXPECT_EQ(run.ExitCode(), 0u);
-    EXPECT_EQ(IsFile(run.Target("Desktop.ini")), answer == IDNO);
-    EXPECT_EQ(Attributes(run.Target()) & FILE_ATTRIBUTE_SYSTEM,
-              answer == IDNO ? FILE_ATTRIBUTE_SYSTEM : 0u);
-    EXPECT_EQ(ReadFile(run.Target("Desktop.ini")), answer == IDNO ? settings : "");
-  }
-}
-
-TEST(RecentFiles, AFileOpenedInOneRunIsOfferedFirstInTheNext) {
   ProgramRun run;
+  WriteFile(run.Target("Desktop.ini"), settings);
+  ::SetFileAttributesA(run.Target("Desktop.ini").c_str(), kHiddenSystem);
+  ::SetFileAttributesA(run.Target().c_str(), FILE_ATTRIBUTE_SYSTEM);
   ASSERT_TRUE(run.Open());
-  HWND chooser = ClickForBox(run, ids::kBrowse);
-  ASSERT_NE(chooser, nullptr);
-  ASSERT_TRUE(WaitUntil([&] { return ::GetAncestor(FocusWindow(), GA_ROOT) == chooser; }));
-  const std::string library = TestFolder() + "ICONS120.DLL";
-  Type(library);
-  PressKey(VK_RETURN);
-  ASSERT_TRUE(WaitUntil([&] { return run.IconCount() == 120; }));
-  ASSERT_TRUE(run.Close());
-  std::string stored = library;
-  std::transform(stored.begin(), stored.end(), stored.begin(), ::tolower);
-  EXPECT_EQ(IniValue(run.File("ARA.INI"), "Recent", "ARA01"), stored);
-
-  ASSERT_TRUE(run.Open());
-  ASSERT_TRUE(ChooseFirstRecentFile(run));
-  EXPECT_TRUE(WaitUntil([&] { return run.IconCount() == 120; }));
-  EXPECT_TRUE(run.Close());
+  HWND question = ClickForBox(run, ids::kDefaultFolderIcon, 2);
+  ASSERT_NE(question, nullptr);
+  EXPECT_EQ(Read(question).text, English(run, IDS_REMOVE_PROMPT));
+  Answer(question, IDNO);
+  ASSERT_TRUE(run.Ended());
+  EXPECT_EQ(run.ExitCode(), 0u);
+  EXPECT_EQ(Attributes(run.Target()) & FILE_ATTRIBUTE_SYSTEM, DWORD{FILE_ATTRIBUTE_SYSTEM});
+  EXPECT_EQ(ReadFile(run.Target("Desktop.ini")), settings);
 }
 
 // A deep path on a share that has gone away makes a long line; ARA.INI
