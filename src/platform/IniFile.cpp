@@ -2,25 +2,30 @@
 
 #include <windows.h>
 
+#include "platform/SystemPath.h"
+#include "platform/Utf8.h"
+
 namespace platform {
 namespace {
+
 constexpr DWORD kIniBufferLength = 30000;
-}
+}  // namespace
 
 std::string ReadIniValue(const std::string& section, const std::string& key,
                          const std::string& file) {
-  std::string buffer(kIniBufferLength, ' ');
-  DWORD count = ::GetPrivateProfileStringA(section.c_str(), key.c_str(), "", buffer.data(),
-                                           kIniBufferLength, file.c_str());
+  std::wstring buffer(kIniBufferLength, L' ');
+  DWORD count =
+      ::GetPrivateProfileStringW(Wide(section).c_str(), Wide(key).c_str(), L"", buffer.data(),
+                                 kIniBufferLength, ShellPath(file).c_str());
   if (count < 1) return {};
   buffer.resize(count);
-  return buffer;
+  return Utf8(buffer);
 }
 
 bool WriteIniValue(const std::string& section, const std::string& key, const std::string& value,
                    const std::string& file) {
-  return ::WritePrivateProfileStringA(section.c_str(), key.c_str(), value.c_str(), file.c_str()) !=
-         0;
+  return ::WritePrivateProfileStringW(Wide(section).c_str(), Wide(key).c_str(), Wide(value).c_str(),
+                                      ShellPath(file).c_str()) != 0;
 }
 
 }  // namespace platform

@@ -14,6 +14,7 @@
 #include "platform/IconFile.h"
 #include "platform/IniFile.h"
 #include "platform/ResourceLibrary.h"
+#include "platform/Utf8.h"
 #include "support/TestSupport.h"
 
 namespace {
@@ -27,10 +28,10 @@ using Make = std::function<void(const std::string& path)>;
 constexpr auto kCaseLimit = std::chrono::seconds(10);
 
 void Collect(const std::string& folder, const std::string& relative, Snapshot& into) {
-  WIN32_FIND_DATAA entry;
-  HANDLE search = ::FindFirstFileA((folder + "\\*").c_str(), &entry);
-  for (bool more = search != INVALID_HANDLE_VALUE; more; more = ::FindNextFileA(search, &entry)) {
-    const std::string name = entry.cFileName;
+  WIN32_FIND_DATAW entry;
+  HANDLE search = ::FindFirstFileW(platform::Wide(folder + "\\*").c_str(), &entry);
+  for (bool more = search != INVALID_HANDLE_VALUE; more; more = ::FindNextFileW(search, &entry)) {
+    const std::string name = platform::Utf8(entry.cFileName);
     if (name == "." || name == "..") continue;
     if (entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) {
       into[relative + name + "\\"] = "";
@@ -156,7 +157,7 @@ std::vector<HostileCase> Cases() {
       DesktopIni("UTF-16 with a byte-order mark, as Explorer writes it",
                  Utf16WithMark(L"[.ShellClassInfo]\r\nIconResource=x.dll,-3\r\nIconFile=C:\\caf"
                                L"\u00e9.ico\r\nIconIndex=4\r\nInfoTip=a\u00f1o\r\n"),
-                 "0 0 \"C:\\caf\xE9.ico\" 4 \"a\xF1o\"; written; still UTF-16"),
+                 "0 0 \"C:\\café.ico\" 4 \"año\"; written; still UTF-16"),
       {"a folder named Desktop.ini", core::kSettingsFileName, MakeFolder,
        [](const std::string& folder, const std::string&) {
          core::FolderSettings settings;
@@ -180,7 +181,7 @@ std::vector<HostileCase> Cases() {
       IconSource(".ico claiming 65535 images", "many.ico", Bytes(many), 0),
       IconSource(".ico of zero bytes", "zero.ico", Bytes(""), 0),
       IconSource("a folder as icon file", "folder.ico", MakeFolder, 0),
-      IconSource("ANSI letters in the name", "caf\xE9 \xF1.ico", Bytes(icon), 1),
+      IconSource("letters of many scripts in the name", "café ñ 写真 Фото 😀.ico", Bytes(icon), 1),
   };
 }
 
