@@ -7,6 +7,7 @@
 #include <limits>
 
 #include "platform/CommonDialogText.h"
+#include "platform/SystemPath.h"
 #include "platform/Utf8.h"
 
 namespace platform {
@@ -104,7 +105,9 @@ void CommonDialog::ShowFileDialog(FileDialogKind kind) {
     std::wstring fileBuffer = FileNameBuffer(Wide(filename_), size);
     std::wstring titleBuffer = FileNameBuffer(Wide(fileTitle_), size);
     const std::wstring filter = ConvertFilter(Wide(filter_));
-    const std::wstring initDir = Wide(initDir_), title = Wide(dialogTitle_);
+    // The dialogs keep folders in MAX_PATH buffers of their own.
+    const std::wstring initDir = initDir_.empty() ? std::wstring() : ShellPath(initDir_);
+    const std::wstring title = Wide(dialogTitle_);
     const std::wstring defaultExt = Wide(defaultExt_);
 
     OPENFILENAMEW record{};

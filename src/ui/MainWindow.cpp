@@ -35,6 +35,7 @@ constexpr std::int16_t kRefuseClose = 100;
 // Tool tips of labels are areas of the form, known by these numbers.
 constexpr UINT_PTR kDragStripTipId = 1;
 constexpr UINT_PTR kHelpTipId = 2;
+constexpr UINT_PTR kFolderTipId = 3;
 
 // An element's position as the form designer gives it, in twips.
 TwipsRect DesignPosition(const toolkit::Element& element) {
@@ -192,6 +193,9 @@ void MainWindow::OnLoad() {
   const std::string aboutTip = context_.Text(IDS_TIP_ABOUT);
   Tips().SetTip(kDragStripTipId, dragStrip_->Bounds(), aboutTip);
   Tips().SetTip(kHelpTipId, helpLink_->Bounds(), aboutTip);
+  // The label has room for the start of a long path only; its tip holds all of it.
+  Tips().SetTip(kFolderTipId, PairLabel(names::kCurrentIconLabel, 1).Bounds(),
+                context_.targetFolder);
 
   ShowDefaultFolderIcon();
   ShowApplyButton(false);
