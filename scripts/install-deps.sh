@@ -8,7 +8,7 @@ packages=(
   cmake make googletest
   wine wine64 fonts-wine
   xvfb xauth x11-utils xdotool openbox
-  python3-fonttools python3-pil fonts-dejavu-core
+  python3-fonttools python3-pil fonts-dejavu-core fonts-droid-fallback
   imagemagick icoutils attr nsis
 )
 

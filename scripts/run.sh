@@ -17,6 +17,21 @@ if [ ! -d "$1" ]; then
 fi
 folder=$(cd -- "$1" && pwd)
 
+# Wine names Linux files in the character set of LC_CTYPE; only UTF-8 reaches
+# every name (under "C" not even "é" does). The other categories stay.
+if [ "$(locale charmap 2>/dev/null)" != UTF-8 ]; then
+  if [ -n "${LC_ALL:-}" ]; then
+    export LANG=$LC_ALL
+    unset LC_ALL
+  fi
+  ctype=$(locale 2>/dev/null | sed -n 's/^LC_CTYPE="\{0,1\}\([^".@]*\).*/\1/p')
+  if [ "$(LC_CTYPE="$ctype.UTF-8" locale charmap 2>/dev/null)" = UTF-8 ]; then
+    export LC_CTYPE="$ctype.UTF-8"
+  else
+    export LC_CTYPE=C.UTF-8
+  fi
+fi
+
 mkdir -p "$build_dir"
 log="$build_dir/build.log"
 echo "Building Morvane in $build_dir (the first build takes several minutes)..." >&2
@@ -26,6 +41,32 @@ if ! build_morvane "${dist_targets[@]}" >"$log" 2>&1; then
   exit 1
 fi
 prepare_wine_prefix "${MORVANE_WINEPREFIX:-$HOME/.local/share/morvane/wineprefix}"
+
+# Windows draws the letters a face lacks (Tahoma has no Greek, Chinese or
+# symbols) from the fonts linked to it; Wine's prefix links only Windows
+# fonts, which Linux does not have. The fonts this system has for those
+# scripts are linked after them, once. Wine looks the bold face's links up
+# under its own name.
+link_fallback_fonts() {
+  local key='HKLM\Software\Microsoft\Windows NT\CurrentVersion\FontLink\SystemLink'
+  local separator='\0' face links code font
+  for face in Tahoma "Tahoma Bold"; do
+    links=$(wine reg query "$key" /v "$face" 2>/dev/null </dev/null | tr -d '\r' |
+      sed -n "s/^ *$face *REG_MULTI_SZ *//p") || links=""
+    # Greek, Chinese, Japanese, Korean, Arabic, Hebrew, Devanagari, Thai and
+    # a symbol.
+    for code in 3b5 5199 3042 d55c 627 5d0 915 e01 2615; do
+      font=$(fc-match -f '%{file}|%{family[0]}' ":charset=$code" 2>/dev/null) || continue
+      font="${font##*/}"
+      font="${font/|/,}"
+      if [[ -n $font && $separator$links$separator != *"$separator$font$separator"* ]]; then
+        links="${links:+$links$separator}$font"
+      fi
+    done
+    wine reg add "$key" /v "$face" /t REG_MULTI_SZ /d "$links" /f >/dev/null 2>&1 </dev/null
+  done
+}
+link_fallback_fonts
 
 headless=""
 if [ -z "${DISPLAY:-}" ] || ! xdpyinfo >/dev/null 2>&1; then
@@ -41,9 +82,20 @@ else
   unmanaged_windows Y
 fi
 
+# winepath answers in at most MAX_PATH characters: a deeper folder is named
+# through its deepest ancestor within that reach, the rest as it stands.
+windows_path() {
+  local path=$1 rest=""
+  while [ ${#path} -gt 200 ] && [[ $path == /*/* ]]; do
+    rest="\\${path##*/}$rest"
+    path=${path%/*}
+  done
+  printf '%s%s' "$(winepath -w "$path")" "$rest"
+}
+
 # Morvane takes its whole command line after the program's name as the
 # folder: blanks, quotes and all.
-windows_folder=$(winepath -w "$folder")
+windows_folder=$(windows_path "$folder")
 program=$(winepath -w "$build_dir/dist/Morvane.exe")
 if [[ $windows_folder != *[%!]* ]]; then
   wine_command_line "\"$program\" $windows_folder" &

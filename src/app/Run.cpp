@@ -7,6 +7,7 @@
 #include "platform/DisplayDepth.h"
 #include "platform/FileSystem.h"
 #include "platform/MessageBoxes.h"
+#include "platform/Utf8.h"
 #include "resource_ids.h"
 #include "toolkit/MessageLoop.h"
 #include "ui/ProgramFont.h"
@@ -17,13 +18,13 @@ namespace {
 
 constexpr char kProgramName[] = "Morvane";
 constexpr LONG kStartSquare = 32;
-constexpr char kInstanceMarkerName[] = "Local\\Morvane.Running";
+constexpr wchar_t kInstanceMarkerName[] = L"Local\\Morvane.Running";
 constexpr char kPictureLibrary[] = "Resource.DLL";
 
 std::string ProgramFileFolder() {
-  std::string path(MAX_PATH, '\0');
+  std::wstring path(MAX_PATH, L'\0');
   for (;;) {
-    DWORD length = ::GetModuleFileNameA(nullptr, path.data(), static_cast<DWORD>(path.size()));
+    DWORD length = ::GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
     if (length == 0) return "\\";
     if (length < path.size()) {
       path.resize(length);
@@ -31,7 +32,7 @@ std::string ProgramFileFolder() {
     }
     path.resize(path.size() * 2);
   }
-  return path.substr(0, path.find_last_of('\\')) + "\\";
+  return platform::Utf8(path.substr(0, path.find_last_of(L'\\'))) + "\\";
 }
 
 [[noreturn]] void EndProcessNow() {
@@ -43,7 +44,7 @@ std::string ProgramFileFolder() {
 // The marker lives as long as the run; the system drops it when the process
 // ends.
 bool Run::AnotherCopyRunning() {
-  instanceMarker_.reset(::CreateMutexA(nullptr, FALSE, kInstanceMarkerName));
+  instanceMarker_.reset(::CreateMutexW(nullptr, FALSE, kInstanceMarkerName));
   return ::GetLastError() == ERROR_ALREADY_EXISTS;
 }
 
@@ -73,7 +74,7 @@ void Run::Start() {
   language_.Open(programFolder_ + languageFile);
   if (pictures_.Name().empty() || language_.Name().empty()) End(false);
 
-  const std::string commandLine = CommandLineArguments(::GetCommandLineA());
+  const std::string commandLine = CommandLineArguments(platform::Utf8(::GetCommandLineW()));
   if (IsBlankCommandLine(commandLine)) {
     platform::Tell(nullptr, language_.String(IDS_EMPTY_COMMAND_LINE), kProgramName);
     End(false);

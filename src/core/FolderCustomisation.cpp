@@ -2,6 +2,7 @@
 
 #include <shlobj.h>
 
+#include "platform/FileSystem.h"
 #include "platform/ShellIcon.h"
 #include "platform/ShellNotifier.h"
 
@@ -17,27 +18,13 @@ constexpr DWORD kNormalAttribute = FILE_ATTRIBUTE_NORMAL;
 constexpr LONG kAttributesChanged = SHCNE_ATTRIBUTES;
 constexpr LONG kImageChanged = SHCNE_UPDATEIMAGE;
 constexpr LONG kAssociationsChanged = SHCNE_ASSOCCHANGED;
-constexpr UINT kPathsHandled = SHCNF_PATHA | SHCNF_FLUSH;
-constexpr UINT kNumbers = SHCNF_DWORD;
-constexpr UINT kNoItems = 0;
 
 constexpr char kProgramIconFile[] = "morvane.ico";
 
-// The attribute word of `path`, or nothing when the system cannot read it.
-bool ReadAttributes(const std::string& path, DWORD& attributes) {
-  attributes = ::GetFileAttributesA(path.c_str());
-  return attributes != INVALID_FILE_ATTRIBUTES;
-}
-
-// A number item travels in the pointer itself.
-const void* NumberItem(int number) {
-  return reinterpret_cast<const void*>(static_cast<INT_PTR>(number));
-}
-
 // The image and association notifications both operations end with.
 void NotifyImageChanged(platform::ShellNotifier& shell, int iconIndex) {
-  shell.Notify(kImageChanged, kNumbers, NumberItem(iconIndex), nullptr);
-  shell.Notify(kAssociationsChanged, kNoItems, nullptr, nullptr);
+  shell.NotifyNumber(kImageChanged, iconIndex);
+  shell.Notify(kAssociationsChanged);
 }
 
 }  // namespace
@@ -51,32 +38,31 @@ void ApplyFolderIcon(const std::string& folder, FolderSettings& settings, bool f
   WriteFolderSettings(folder, settings, fileIsNew, language);
 
   const std::string settingsFile = SettingsFilePath(folder);
-  DWORD attributes = 0;
-  if (ReadAttributes(folder, attributes)) {
-    ::SetFileAttributesA(settingsFile.c_str(), SettingsFileAttributes(attributes));
+  if (auto attributes = platform::ReadAttributes(folder)) {
+    platform::WriteAttributes(settingsFile, SettingsFileAttributes(*attributes));
   }
-  if (ReadAttributes(folder, attributes)) {
-    ::SetFileAttributesA(folder.c_str(), attributes | kSystemAttribute);
+  if (auto attributes = platform::ReadAttributes(folder)) {
+    platform::WriteAttributes(folder, *attributes | kSystemAttribute);
   }
   const int iconIndex = platform::SystemIconIndex(folder);
 
-  shell.Notify(kAttributesChanged, kPathsHandled, settingsFile.c_str(), nullptr);
-  shell.Notify(kAttributesChanged, kPathsHandled, folder.c_str(), nullptr);
+  shell.NotifyPath(kAttributesChanged, settingsFile);
+  shell.NotifyPath(kAttributesChanged, folder);
   NotifyImageChanged(shell, iconIndex);
 }
 
 void DeleteCustomisationFiles(const std::string& folder) {
   const std::string settingsFile = SettingsFilePath(folder);
   // A hidden, system or read-only file could not be deleted otherwise.
-  ::SetFileAttributesA(settingsFile.c_str(), kArchiveAttribute);
-  ::DeleteFileA((folder + "\\" + kProgramIconFile).c_str());
-  ::DeleteFileA(settingsFile.c_str());
+  platform::WriteAttributes(settingsFile, kArchiveAttribute);
+  platform::RemoveFile(folder + "\\" + kProgramIconFile);
+  platform::RemoveFile(settingsFile);
 }
 
 void UnmarkFolder(const std::string& folder, platform::ShellNotifier& shell) {
-  ::SetFileAttributesA(folder.c_str(), kNormalAttribute);
+  platform::WriteAttributes(folder, kNormalAttribute);
   const int iconIndex = platform::SystemIconIndex(folder);
-  shell.Notify(kAttributesChanged, kPathsHandled, folder.c_str(), nullptr);
+  shell.NotifyPath(kAttributesChanged, folder);
   NotifyImageChanged(shell, iconIndex);
 }
 

@@ -7,6 +7,8 @@
 #include <limits>
 
 #include "platform/CommonDialogText.h"
+#include "platform/SystemPath.h"
+#include "platform/Utf8.h"
 
 namespace platform {
 namespace {
@@ -18,7 +20,7 @@ constexpr int kCustomColourCount = 16;
 constexpr COLORREF kWhite = RGB(255, 255, 255);
 constexpr SIZE_T kCustomColoursBytes = kCustomColourCount * sizeof(COLORREF);
 // The font block has always been one byte longer than the record it holds.
-constexpr SIZE_T kFontBlockBytes = sizeof(LOGFONTA) + 1;
+constexpr SIZE_T kFontBlockBytes = sizeof(LOGFONTW) + 1;
 // The Flags property does not reach the font dialog.
 constexpr DWORD kFontDialogFlags = CF_SCREENFONTS | CF_EFFECTS;
 constexpr LONG kBoldWeight = FW_BOLD;
@@ -55,7 +57,7 @@ Handle HandleFrom(std::int32_t value) {
 
 // An empty text reaches the platform as no text, so that the dialog uses
 // its default (title, folder, extension).
-const char* TextOrNone(const std::string& text) {
+const wchar_t* TextOrNone(const std::wstring& text) {
   return text.empty() ? nullptr : text.c_str();
 }
 
@@ -100,13 +102,17 @@ void CommonDialog::ShowFileDialog(FileDialogKind kind) {
   StopAtFirstFailure([&] {
     const auto size =
         static_cast<std::size_t>(maxFileSize_ >= 1 ? maxFileSize_ : kDefaultMaxFileSize);
-    std::string fileBuffer = FileNameBuffer(filename_, size);
-    std::string titleBuffer = FileNameBuffer(fileTitle_, size);
-    const std::string filter = ConvertFilter(filter_);
+    std::wstring fileBuffer = FileNameBuffer(Wide(filename_), size);
+    std::wstring titleBuffer = FileNameBuffer(Wide(fileTitle_), size);
+    const std::wstring filter = ConvertFilter(Wide(filter_));
+    // The dialogs keep folders in MAX_PATH buffers of their own.
+    const std::wstring initDir = initDir_.empty() ? std::wstring() : ShellPath(initDir_);
+    const std::wstring title = Wide(dialogTitle_);
+    const std::wstring defaultExt = Wide(defaultExt_);
 
-    OPENFILENAMEA record{};
+    OPENFILENAMEW record{};
     // The original layout, without the fields later systems appended.
-    record.lStructSize = OPENFILENAME_SIZE_VERSION_400A;
+    record.lStructSize = OPENFILENAME_SIZE_VERSION_400W;
     record.hwndOwner = HandleFrom<HWND>(owner_);
     record.lpstrFilter = filter.c_str();
     record.nFilterIndex = static_cast<DWORD>(filterIndex_);
@@ -114,17 +120,17 @@ void CommonDialog::ShowFileDialog(FileDialogKind kind) {
     record.nMaxFile = static_cast<DWORD>(size);
     record.lpstrFileTitle = titleBuffer.data();
     record.nMaxFileTitle = static_cast<DWORD>(size);
-    record.lpstrInitialDir = TextOrNone(initDir_);
-    record.lpstrTitle = TextOrNone(dialogTitle_);
+    record.lpstrInitialDir = TextOrNone(initDir);
+    record.lpstrTitle = TextOrNone(title);
     record.Flags = static_cast<DWORD>(flags_);
-    record.lpstrDefExt = TextOrNone(defaultExt_);
-    lastFileDialog_ = {filter + '\0', fileBuffer, titleBuffer, record.nMaxFile,
+    record.lpstrDefExt = TextOrNone(defaultExt);
+    lastFileDialog_ = {filter + L'\0', fileBuffer, titleBuffer, record.nMaxFile,
                        record.nMaxFileTitle};
 
     BOOL result = 0;
     switch (kind) {
-      case FileDialogKind::kOpen: result = ::GetOpenFileNameA(&record); break;
-      case FileDialogKind::kSave: result = ::GetSaveFileNameA(&record); break;
+      case FileDialogKind::kOpen: result = ::GetOpenFileNameW(&record); break;
+      case FileDialogKind::kSave: result = ::GetSaveFileNameW(&record); break;
       default: return;
     }
     apiReturn_ = result;
@@ -132,8 +138,8 @@ void CommonDialog::ShowFileDialog(FileDialogKind kind) {
     if (result == 0) {
       cancelled_ = true;  // never an error, whatever CancelError says
     } else if (result == kConfirmed) {
-      filename_ = CutAtNul(fileBuffer);
-      fileTitle_ = CutAtNul(titleBuffer);
+      filename_ = Utf8(CutAtNul(fileBuffer));
+      fileTitle_ = Utf8(CutAtNul(titleBuffer));
     } else {
       extendedError_ = static_cast<std::int32_t>(::CommDlgExtendedError());
     }
@@ -153,14 +159,14 @@ void CommonDialog::RunColorDialog() {
   auto* custom = static_cast<COLORREF*>(customColours.data());
   std::fill_n(custom, kCustomColourCount, kWhite);
 
-  CHOOSECOLORA record{};
+  CHOOSECOLORW record{};
   record.lStructSize = sizeof record;
   record.hwndOwner = HandleFrom<HWND>(owner_);
   record.rgbResult = static_cast<COLORREF>(color_);
   record.lpCustColors = custom;
   record.Flags = static_cast<DWORD>(flags_);
   cancelled_ = false;
-  const BOOL result = ::ChooseColorA(&record);
+  const BOOL result = ::ChooseColorW(&record);
   apiReturn_ = result;
   if (result == 0) {
     if (cancelError_) cancelled_ = true;
@@ -179,7 +185,7 @@ void CommonDialog::ShowFont() {
 }
 
 void CommonDialog::RunFontDialog() {
-  LOGFONTA font{};
+  LOGFONTW font{};
   if (fontBold_) font.lfWeight = kBoldWeight;
   if (fontItalic_) font.lfItalic = kEffectOn;
   if (fontUnderline_) font.lfUnderline = kEffectOn;
@@ -192,13 +198,13 @@ void CommonDialog::RunFontDialog() {
   if (tenths < std::numeric_limits<INT>::min() || tenths > std::numeric_limits<INT>::max()) {
     return;
   }
-  CHOOSEFONTA record{};
+  CHOOSEFONTW record{};
   record.lStructSize = sizeof record;
-  record.lpLogFont = static_cast<LOGFONTA*>(block.data());
+  record.lpLogFont = static_cast<LOGFONTW*>(block.data());
   record.iPointSize = static_cast<INT>(tenths);
   record.Flags = kFontDialogFlags;
   record.rgbColors = static_cast<COLORREF>(color_);
-  const BOOL result = ::ChooseFontA(&record);
+  const BOOL result = ::ChooseFontW(&record);
   apiReturn_ = result;
   if (result == 0) {
     if (cancelError_) throw CommonDialogError(kErrCancel);
@@ -209,7 +215,7 @@ void CommonDialog::RunFontDialog() {
     fontItalic_ = font.lfItalic == kEffectOn;
     fontUnderline_ = font.lfUnderline == kEffectOn;
     fontStrikethru_ = font.lfStrikeOut == kEffectOn;
-    fontName_ = FaceNameToText(font.lfFaceName, sizeof font.lfFaceName);
+    fontName_ = FaceNameToText(font.lfFaceName, LF_FACESIZE);
     fontSize_ = TenthsToPoints(record.iPointSize);
   } else {
     extendedError_ = static_cast<std::int32_t>(::CommDlgExtendedError());
@@ -227,7 +233,7 @@ void CommonDialog::RunPrintDialog() {
   for (std::int32_t value : {fromPage_, toPage_, min_, max_, copies_}) {
     if (!FitsInt16(value)) return;
   }
-  PRINTDLGA record{};
+  PRINTDLGW record{};
   record.lStructSize = sizeof record;
   record.hDC = HandleFrom<HDC>(owner_);
   record.Flags = static_cast<DWORD>(flags_);
@@ -236,7 +242,7 @@ void CommonDialog::RunPrintDialog() {
   record.nMinPage = static_cast<WORD>(min_);
   record.nMaxPage = static_cast<WORD>(max_);
   record.nCopies = static_cast<WORD>(copies_);
-  const BOOL result = ::PrintDlgA(&record);
+  const BOOL result = ::PrintDlgW(&record);
   apiReturn_ = result;
   // The dialog allocates the printer's settings and, when asked, a context;
   // the class hands out neither, so they go back at once.
@@ -263,7 +269,8 @@ void CommonDialog::ShowHelp() {
   action_ = kActionHelp;
   apiReturn_ = 0;
   extendedError_ = 0;
-  apiReturn_ = ::WinHelpA(HandleFrom<HWND>(owner_), TextOrNone(helpFile_),
+  const std::wstring helpFile = Wide(helpFile_);
+  apiReturn_ = ::WinHelpW(HandleFrom<HWND>(owner_), TextOrNone(helpFile),
                           static_cast<UINT>(helpCommand_), 0);
   extendedError_ = static_cast<std::int32_t>(::CommDlgExtendedError());
 }

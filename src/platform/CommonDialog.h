@@ -31,10 +31,10 @@ class CommonDialogError : public std::runtime_error {
 
 // What the last file dialog was handed, for tests and diagnostics.
 struct FileDialogRequest {
-  std::string filter;       // the list as passed, both closing NULs included
-  std::string fileBuffer;   // the file-name buffer before the call, NUL included
-  std::string titleBuffer;  // the file-title buffer before the call
-  DWORD maxFile = 0;        // buffer sizes the dialog was told, in characters
+  std::wstring filter;       // the list as passed, both closing NULs included
+  std::wstring fileBuffer;   // the file-name buffer before the call, NUL included
+  std::wstring titleBuffer;  // the file-title buffer before the call
+  DWORD maxFile = 0;         // buffer sizes the dialog was told, in characters
   DWORD maxFileTitle = 0;
 };
 

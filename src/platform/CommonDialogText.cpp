@@ -2,35 +2,37 @@
 
 #include <algorithm>
 
+#include "platform/Utf8.h"
+
 namespace platform {
 namespace {
 
-constexpr char kFilterSeparator = '|';
+constexpr wchar_t kFilterSeparator = L'|';
 constexpr std::int32_t kTenthsPerPoint = 10;
 constexpr std::int32_t kHalfPoint = kTenthsPerPoint / 2;
 
 }  // namespace
 
-std::string ConvertFilter(std::string_view text) {
-  std::string list(text);
-  std::replace(list.begin(), list.end(), kFilterSeparator, '\0');
-  list.push_back('\0');
+std::wstring ConvertFilter(std::wstring_view text) {
+  std::wstring list(text);
+  std::replace(list.begin(), list.end(), kFilterSeparator, L'\0');
+  list.push_back(L'\0');
   return list;
 }
 
-std::string CutAtNul(std::string_view text) {
-  return std::string(text.substr(0, text.find('\0')));
+std::wstring CutAtNul(std::wstring_view text) {
+  return std::wstring(text.substr(0, text.find(L'\0')));
 }
 
-std::string FaceNameToText(const char* bytes, std::size_t length) {
-  return CutAtNul(std::string_view(bytes, length));
+std::string FaceNameToText(const wchar_t* face, std::size_t length) {
+  return Utf8(CutAtNul(std::wstring_view(face, length)));
 }
 
-std::string FileNameBuffer(std::string_view text, std::size_t size) {
+std::wstring FileNameBuffer(std::wstring_view text, std::size_t size) {
   if (size == 0) return {};
-  std::string buffer(text.substr(0, size - 1));
-  buffer.resize(size - 1, ' ');
-  buffer.push_back('\0');
+  std::wstring buffer(text.substr(0, size - 1));
+  buffer.resize(size - 1, L' ');
+  buffer.push_back(L'\0');
   return buffer;
 }
 

@@ -18,7 +18,7 @@ constexpr char kIconDepthValue[] = "Shell Icon BPP";
 }  // namespace
 
 std::int32_t DisplayColourDepth() {
-  ScopedMemoryDC display(::CreateDCA("DISPLAY", nullptr, nullptr, nullptr));
+  ScopedMemoryDC display(::CreateDCW(L"DISPLAY", nullptr, nullptr, nullptr));
   return display ? ::GetDeviceCaps(display.get(), BITSPIXEL) : 0;
 }
 

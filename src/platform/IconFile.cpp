@@ -6,6 +6,7 @@
 
 #include "platform/IconFileShape.h"
 #include "platform/ScopedHandle.h"
+#include "platform/SystemPath.h"
 
 namespace platform {
 namespace {
@@ -23,13 +24,14 @@ bool ExtractedNothing(UINT answer) {
 
 }  // namespace
 
-IconFile::IconFile(std::string path) : path_(std::move(path)), intact_(IconSourceIsIntact(path_)) {}
+IconFile::IconFile(std::string path)
+    : path_(std::move(path)), systemPath_(ShellPath(path_)), intact_(IconSourceIsIntact(path_)) {}
 
 std::int32_t IconFile::Count() const {
   if (!intact_) return 0;
   HICON large = nullptr;
   HICON small = nullptr;
-  UINT count = ::ExtractIconExA(path_.c_str(), kCountOnly, &large, &small, kOneIcon);
+  UINT count = ::ExtractIconExW(systemPath_.c_str(), kCountOnly, &large, &small, kOneIcon);
   if (ExtractedNothing(count) || count > std::numeric_limits<std::int32_t>::max()) return 0;
   return static_cast<std::int32_t>(count);
 }
@@ -38,7 +40,7 @@ HICON IconFile::ExtractLarge(std::int32_t index) const {
   if (!intact_) return nullptr;
   HICON large = nullptr;
   HICON small = nullptr;
-  UINT answer = ::ExtractIconExA(path_.c_str(), index, &large, &small, kOneIcon);
+  UINT answer = ::ExtractIconExW(systemPath_.c_str(), index, &large, &small, kOneIcon);
   // The slots hold junk after a failed call, so they are read only after a
   // successful one.
   if (ExtractedNothing(answer)) return nullptr;

@@ -28,6 +28,7 @@ class IconFile {
 
  private:
   std::string path_;
+  std::wstring systemPath_;  // the form the extraction accepts
   bool intact_;
 };
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/ScopedHandle.h"
+#include "platform/SystemPath.h"
 
 namespace platform {
 namespace {
@@ -94,7 +95,7 @@ bool IconFileIsIntact(const FileBytes& file, std::uint32_t count) {
 }
 
 bool Examine(const std::string& path) {
-  ScopedKernelHandle handle(::CreateFileA(path.c_str(), GENERIC_READ,
+  ScopedKernelHandle handle(::CreateFileW(FilePath(path).c_str(), GENERIC_READ,
                                           FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
                                           nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
   if (handle.get() == INVALID_HANDLE_VALUE) {
@@ -118,7 +119,7 @@ bool Examine(const std::string& path) {
 
 bool IconSourceIsIntact(const std::string& path) {
   WIN32_FILE_ATTRIBUTE_DATA seen{};
-  if (!::GetFileAttributesExA(path.c_str(), GetFileExInfoStandard, &seen) ||
+  if (!::GetFileAttributesExW(FilePath(path).c_str(), GetFileExInfoStandard, &seen) ||
       (seen.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY)) {
     return true;
   }

@@ -4,6 +4,7 @@
 
 #include "platform/ScopedHandle.h"
 #include "platform/TextRules.h"
+#include "platform/Utf8.h"
 
 namespace platform {
 namespace {
@@ -12,11 +13,13 @@ constexpr DWORD kNumberSize = sizeof(DWORD);
 constexpr LONG kNothingWritten = ERROR_SUCCESS;
 // The system counts a NUL it finds just after the given bytes as the text's
 // terminator; a non-NUL guard there keeps the stored text to its own length.
-constexpr char kGuardByte = '\x01';
+constexpr wchar_t kGuard = L'\x01';
 
 ScopedKey OpenKey(HKEY hive, const std::string& keyName) {
   HKEY key = nullptr;
-  if (::RegOpenKeyExA(hive, keyName.c_str(), 0, kKeyAccess, &key) != ERROR_SUCCESS) return {};
+  if (::RegOpenKeyExW(hive, Wide(keyName).c_str(), 0, kKeyAccess, &key) != ERROR_SUCCESS) {
+    return {};
+  }
   return ScopedKey(key);
 }
 
@@ -45,19 +48,21 @@ RegistryValue GetRegistryValue(HKEY hive, const std::string& keyName,
 }
 
 LONG ReadRegistryValue(HKEY openKey, const std::string& valueName, RegistryValue& value) {
+  const std::wstring name = Wide(valueName);
   DWORD kind = 0;
   DWORD size = 0;
-  LONG status = ::RegQueryValueExA(openKey, valueName.c_str(), nullptr, &kind, nullptr, &size);
+  LONG status = ::RegQueryValueExW(openKey, name.c_str(), nullptr, &kind, nullptr, &size);
   if (status != ERROR_SUCCESS) {
     value = std::monostate{};
     return status;
   }
   if (kind == kTextKind) {
-    std::string buffer(size, '\0');
-    status = ::RegQueryValueExA(openKey, valueName.c_str(), nullptr, nullptr,
+    // Sizes are in bytes; an odd one still gets its last byte a place.
+    std::wstring buffer((size + 1) / sizeof(wchar_t), L'\0');
+    status = ::RegQueryValueExW(openKey, name.c_str(), nullptr, nullptr,
                                 reinterpret_cast<BYTE*>(buffer.data()), &size);
     if (status == ERROR_SUCCESS) {
-      value = buffer;
+      value = Utf8(buffer);
     } else {
       value = std::monostate{};
     }
@@ -66,7 +71,7 @@ LONG ReadRegistryValue(HKEY openKey, const std::string& valueName, RegistryValue
   if (kind == kNumberKind) {
     DWORD number = 0;
     DWORD numberSize = kNumberSize;
-    status = ::RegQueryValueExA(openKey, valueName.c_str(), nullptr, nullptr,
+    status = ::RegQueryValueExW(openKey, name.c_str(), nullptr, nullptr,
                                 reinterpret_cast<BYTE*>(&number), &numberSize);
     if (status == ERROR_SUCCESS) value = number;
     return status;
@@ -82,18 +87,19 @@ void SetRegistryValue(HKEY hive, const std::string& keyName, const std::string& 
 
 LONG WriteRegistryValue(HKEY openKey, const std::string& valueName, DWORD kind,
                         const RegistryValue& value) {
+  const std::wstring name = Wide(valueName);
   if (kind == kTextKind) {
-    std::string bytes = RegistryText(value);
-    const DWORD length = static_cast<DWORD>(bytes.size());
-    bytes.push_back(kGuardByte);
-    return ::RegSetValueExA(openKey, valueName.c_str(), 0, kind,
-                            reinterpret_cast<const BYTE*>(bytes.data()), length);
+    std::wstring text = Wide(RegistryText(value));
+    const auto length = static_cast<DWORD>(text.size() * sizeof(wchar_t));
+    text.push_back(kGuard);
+    return ::RegSetValueExW(openKey, name.c_str(), 0, kind,
+                            reinterpret_cast<const BYTE*>(text.data()), length);
   }
   if (kind == kNumberKind) {
     std::optional<DWORD> number = RegistryNumber(value);
     if (!number) return ERROR_INVALID_DATA;
-    return ::RegSetValueExA(openKey, valueName.c_str(), 0, kind,
-                            reinterpret_cast<const BYTE*>(&*number), kNumberSize);
+    return ::RegSetValueExW(openKey, name.c_str(), 0, kind, reinterpret_cast<const BYTE*>(&*number),
+                            kNumberSize);
   }
   return kNothingWritten;
 }

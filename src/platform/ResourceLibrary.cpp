@@ -7,7 +7,9 @@
 #include <vector>
 
 #include "platform/FileSystem.h"
+#include "platform/SystemPath.h"
 #include "platform/TextRules.h"
+#include "platform/Utf8.h"
 
 namespace platform {
 namespace {
@@ -27,7 +29,7 @@ void ResourceLibrary::Fail(long number, std::string description) const {
 
 void ResourceLibrary::Open(const std::string& path) {
   Close();
-  library_.reset(::LoadLibraryA(path.c_str()));
+  library_.reset(::LoadLibraryW(ShellPath(path).c_str()));
   if (library_) {
     name_ = path;
   } else {
@@ -42,22 +44,24 @@ void ResourceLibrary::Close() {
 
 std::string ResourceLibrary::String(std::int32_t id, std::int32_t length) const {
   const int bufferSize = length < 0 ? 1 : length + 1;
-  std::vector<char> buffer(static_cast<std::size_t>(bufferSize), '\0');
+  std::vector<wchar_t> buffer(static_cast<std::size_t>(bufferSize), L'\0');
   int count = 0;
-  // Without a library LoadStringA would search the program file itself.
+  // Without a library LoadStringW would search the program file itself.
   if (library_) {
-    count = ::LoadStringA(library_.get(), static_cast<UINT>(id), buffer.data(), bufferSize);
+    count = ::LoadStringW(library_.get(), static_cast<UINT>(id), buffer.data(), bufferSize);
   }
   if (count <= 0) {
     Fail(kErrResourceNotFound, NotFound("String", id));
     return {};
   }
-  return std::string(buffer.data(), static_cast<std::size_t>(count));
+  return Utf8(std::wstring_view(buffer.data(), static_cast<std::size_t>(count)));
 }
 
 std::string ResourceLibrary::Data(std::int32_t id, const std::string& format) const {
   HRSRC resource = nullptr;
-  if (library_) resource = ::FindResourceA(library_.get(), MAKEINTRESOURCEA(id), format.c_str());
+  if (library_) {
+    resource = ::FindResourceW(library_.get(), MAKEINTRESOURCEW(id), Wide(format).c_str());
+  }
   if (!resource) {
     Fail(kErrResourceNotFound, NotFound("Custom", id));
     return {};
@@ -77,15 +81,15 @@ std::int32_t ResourceLibrary::SaveData(std::int16_t id, const std::string& path,
                                        const std::string& format, bool overwrite) const {
   if (FileExists(path)) {
     if (!overwrite) return kErrFileExists;
-    if (!::DeleteFileA(path.c_str())) return static_cast<std::int32_t>(::GetLastError());
+    if (!RemoveFile(path)) return static_cast<std::int32_t>(::GetLastError());
   }
   std::string data = Data(id, format);
   if (data.empty()) {
     Fail(kErrResourceNotFound, "Resource with identifier " + std::to_string(id) + " not found.");
     return kErrResourceNotFound;
   }
-  ScopedKernelHandle file(::CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
-                                        FILE_ATTRIBUTE_NORMAL, nullptr));
+  ScopedKernelHandle file(::CreateFileW(FilePath(path).c_str(), GENERIC_WRITE, 0, nullptr,
+                                        CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
   if (file.get() == INVALID_HANDLE_VALUE) {
     file.release();  // INVALID_HANDLE_VALUE is not a handle to close
     return static_cast<std::int32_t>(::GetLastError());
@@ -103,14 +107,14 @@ Picture ResourceLibrary::LoadPicture(std::int32_t id, std::int32_t pictureType) 
   Picture::Kind kind = Picture::Kind::Icon;
   // Without a library these calls would hand out the system's own pictures.
   if (library_) {
-    LPCSTR name = MAKEINTRESOURCEA(id);
+    LPCWSTR name = MAKEINTRESOURCEW(id);
     switch (pictureType) {
       case kBitmap:
-        handle = ::LoadBitmapA(library_.get(), name);
+        handle = ::LoadBitmapW(library_.get(), name);
         kind = Picture::Kind::Bitmap;
         break;
-      case kIcon: handle = ::LoadIconA(library_.get(), name); break;
-      case kCursor: handle = ::LoadCursorA(library_.get(), name); break;
+      case kIcon: handle = ::LoadIconW(library_.get(), name); break;
+      case kCursor: handle = ::LoadCursorW(library_.get(), name); break;
       default: break;
     }
   }
@@ -125,7 +129,7 @@ Picture ResourceLibrary::LoadPicture(std::int32_t id, std::int32_t pictureType) 
 
 bool ResourceLibrary::PlayWave(std::int32_t id) const {
   if (!library_) return false;
-  return ::PlaySoundA(MAKEINTRESOURCEA(id), library_.get(), kPlayResourceAsync) != FALSE;
+  return ::PlaySoundW(MAKEINTRESOURCEW(id), library_.get(), kPlayResourceAsync) != FALSE;
 }
 
 std::string ResourceLibrary::Url(std::int16_t id, const std::string& format) const {

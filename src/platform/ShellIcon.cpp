@@ -2,6 +2,8 @@
 
 #include <shellapi.h>
 
+#include "platform/SystemPath.h"
+
 namespace platform {
 namespace {
 
@@ -14,10 +16,12 @@ constexpr DWORD kNoFileAttributes = 0;
 }  // namespace
 
 Picture ShellIconPicture(const std::string& path, std::int32_t size) {
-  SHFILEINFOA info{};
+  SHFILEINFOW info{};
   const UINT flags = size == kLargeShellIcon ? kLargeIconFlags : kSmallIconFlags;
   // After a failed call the record may hold junk, so its handle is not read.
-  if (!::SHGetFileInfoA(path.c_str(), kNoFileAttributes, &info, sizeof info, flags)) return {};
+  if (!::SHGetFileInfoW(ShellPath(path).c_str(), kNoFileAttributes, &info, sizeof info, flags)) {
+    return {};
+  }
   if (!info.hIcon) return {};
   return IconToPicture(info.hIcon);
 }
@@ -28,10 +32,11 @@ Picture IconToPicture(HICON icon) {
 }
 
 int SystemIconIndex(const std::string& path) {
-  SHFILEINFOA info{};
+  SHFILEINFOW info{};
   // The record is larger in a 64-bit build than the 352 bytes of a 32-bit
   // one; the system must be told the size it writes into.
-  ::SHGetFileInfoA(path.c_str(), kNoFileAttributes, &info, sizeof info, SHGFI_SYSICONINDEX);
+  ::SHGetFileInfoW(ShellPath(path).c_str(), kNoFileAttributes, &info, sizeof info,
+                   SHGFI_SYSICONINDEX);
   return info.iIcon;
 }
 

@@ -2,10 +2,26 @@
 
 #include <shlobj.h>
 
-namespace platform {
+#include "platform/SystemPath.h"
 
-void SystemShellNotifier::Notify(LONG event, UINT flags, const void* item1, const void* item2) {
-  ::SHChangeNotify(event, flags, item1, item2);
+namespace platform {
+namespace {
+constexpr UINT kPathHandled = SHCNF_PATHW | SHCNF_FLUSH;
+constexpr UINT kNoItems = 0;
+}  // namespace
+
+void SystemShellNotifier::NotifyPath(LONG event, const std::string& path) {
+  ::SHChangeNotify(event, kPathHandled, ShellPath(path).c_str(), nullptr);
+}
+
+void SystemShellNotifier::NotifyNumber(LONG event, int number) {
+  // A number item travels in the pointer itself.
+  ::SHChangeNotify(event, SHCNF_DWORD, reinterpret_cast<const void*>(static_cast<INT_PTR>(number)),
+                   nullptr);
+}
+
+void SystemShellNotifier::Notify(LONG event) {
+  ::SHChangeNotify(event, kNoItems, nullptr, nullptr);
 }
 
 }  // namespace platform

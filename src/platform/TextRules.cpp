@@ -5,6 +5,8 @@
 #include <cctype>
 #include <charconv>
 
+#include "platform/Utf8.h"
+
 namespace platform {
 
 std::string TrimBlanks(const std::string& text) {
@@ -15,9 +17,13 @@ std::string TrimBlanks(const std::string& text) {
 }
 
 std::string LowerCase(const std::string& text) {
-  std::string lower = text;
-  if (!lower.empty()) ::CharLowerBuffA(lower.data(), static_cast<DWORD>(lower.size()));
-  return lower;
+  std::wstring lower = Wide(text);
+  if (lower.empty()) return {};
+  // Lower case keeps the length of every character in this mapping.
+  ::LCMapStringEx(LOCALE_NAME_INVARIANT, LCMAP_LOWERCASE, lower.data(),
+                  static_cast<int>(lower.size()), lower.data(), static_cast<int>(lower.size()),
+                  nullptr, nullptr, 0);
+  return Utf8(lower);
 }
 
 std::optional<std::int32_t> ToWholeNumber(const std::string& text) {

@@ -12,8 +12,9 @@ namespace platform {
 // `text` without the spaces at either end (tabs and line breaks stay).
 std::string TrimBlanks(const std::string& text);
 
-// Lower case by the rules of the system's ANSI code page, so that accented
-// letters of a path fold as the file system folds them.
+// Lower case by the system's rule for the whole of Unicode, the same in every
+// locale, so that letters of every script in a path fold as the file system
+// folds them. Text of the ANSI code page folds as the ANSI calls fold it.
 std::string LowerCase(const std::string& text);
 
 // The whole number `text` spells in decimal (blanks around it and a leading

@@ -5,6 +5,9 @@
 
 #include <cstdio>
 
+#include "platform/SystemPath.h"
+#include "platform/Utf8.h"
+
 namespace platform {
 namespace {
 constexpr int kShowMaximised = SW_SHOWMAXIMIZED;
@@ -30,7 +33,8 @@ std::string NewClientParameter() {
 void OpenWebPage(std::int32_t code, const std::string& languageCode, HWND owner,
                  const std::string& workingFolder) {
   const std::string address = WebPageAddress(code, NewClientParameter(), languageCode);
-  ::ShellExecuteA(owner, "Open", address.c_str(), "", workingFolder.c_str(), kShowMaximised);
+  ::ShellExecuteW(owner, L"Open", Wide(address).c_str(), L"", ShellPath(workingFolder).c_str(),
+                  kShowMaximised);
 }
 
 }  // namespace platform

@@ -1,5 +1,7 @@
 #include "toolkit/ComboBox.h"
 
+#include "platform/Utf8.h"
+
 namespace toolkit {
 namespace {
 RECT WithDropList(RECT pixels, int dropLines) {
@@ -9,42 +11,42 @@ RECT WithDropList(RECT pixels, int dropLines) {
 }  // namespace
 
 ComboBox::ComboBox(std::string name, HWND parent, const RECT& pixels, int id, int dropLines)
-    : Control(std::move(name), "ComboBox", "COMBOBOX",
+    : Control(std::move(name), "ComboBox", L"COMBOBOX",
               WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST | CBS_HASSTRINGS | CBS_AUTOHSCROLL, 0,
               parent, WithDropList(pixels, dropLines), id) {}
 
 void ComboBox::Clear() {
-  ::SendMessageA(Hwnd(), CB_RESETCONTENT, 0, 0);
+  ::SendMessageW(Hwnd(), CB_RESETCONTENT, 0, 0);
 }
 
 void ComboBox::AddItem(const std::string& text) {
-  ::SendMessageA(Hwnd(), CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str()));
+  ::SendMessageW(Hwnd(), CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(platform::Wide(text).c_str()));
 }
 
 int ComboBox::ListCount() const {
-  LRESULT count = ::SendMessageA(Hwnd(), CB_GETCOUNT, 0, 0);
+  LRESULT count = ::SendMessageW(Hwnd(), CB_GETCOUNT, 0, 0);
   return count == CB_ERR ? 0 : static_cast<int>(count);
 }
 
 int ComboBox::ListIndex() const {
-  LRESULT index = ::SendMessageA(Hwnd(), CB_GETCURSEL, 0, 0);
+  LRESULT index = ::SendMessageW(Hwnd(), CB_GETCURSEL, 0, 0);
   return index == CB_ERR ? -1 : static_cast<int>(index);
 }
 
 void ComboBox::SetListIndex(int index) {
-  ::SendMessageA(Hwnd(), CB_SETCURSEL, static_cast<WPARAM>(index), 0);
+  ::SendMessageW(Hwnd(), CB_SETCURSEL, static_cast<WPARAM>(index), 0);
 }
 
 std::string ComboBox::Text() const {
   int index = ListIndex();
   if (index < 0) return {};
-  LRESULT length = ::SendMessageA(Hwnd(), CB_GETLBTEXTLEN, static_cast<WPARAM>(index), 0);
+  LRESULT length = ::SendMessageW(Hwnd(), CB_GETLBTEXTLEN, static_cast<WPARAM>(index), 0);
   if (length == CB_ERR) return {};
-  std::string text(static_cast<size_t>(length) + 1, '\0');
-  LRESULT copied = ::SendMessageA(Hwnd(), CB_GETLBTEXT, static_cast<WPARAM>(index),
+  std::wstring text(static_cast<size_t>(length) + 1, L'\0');
+  LRESULT copied = ::SendMessageW(Hwnd(), CB_GETLBTEXT, static_cast<WPARAM>(index),
                                   reinterpret_cast<LPARAM>(text.data()));
   text.resize(copied == CB_ERR ? 0 : static_cast<size_t>(copied));
-  return text;
+  return platform::Utf8(text);
 }
 
 void ComboBox::OnCommand(WORD code) {
@@ -52,7 +54,7 @@ void ComboBox::OnCommand(WORD code) {
 }
 
 bool ComboBox::PreviewMessage(UINT message, WPARAM wParam, LPARAM, LRESULT&) {
-  if (message == WM_CHAR && onKeyPress) onKeyPress(static_cast<char>(wParam));
+  if (message == WM_CHAR && onKeyPress) onKeyPress(static_cast<wchar_t>(wParam));
   return false;
 }
 

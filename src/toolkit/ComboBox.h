@@ -25,7 +25,8 @@ class ComboBox : public Control {
   std::string Text() const;
 
   std::function<void()> onClick;
-  std::function<void(char)> onKeyPress;
+  // A character typed, as the box receives it (UTF-16).
+  std::function<void(wchar_t)> onKeyPress;
 
  private:
   void OnCommand(WORD code) override;

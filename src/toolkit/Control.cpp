@@ -3,21 +3,23 @@
 #include <commctrl.h>
 #include <windowsx.h>
 
+#include "platform/Utf8.h"
+
 namespace toolkit {
 namespace {
 constexpr UINT_PTR kSubclassId = 1;
 }
 
-Control::Control(std::string name, std::string kind, const char* className, DWORD style,
+Control::Control(std::string name, std::string kind, const wchar_t* className, DWORD style,
                  DWORD exStyle, HWND parent, const RECT& pixels, int id)
     : Element(std::move(name), std::move(kind)), id_(id) {
-  HWND window = ::CreateWindowExA(
-      exStyle, className, "", style | WS_CHILD | WS_VISIBLE, pixels.left, pixels.top,
+  HWND window = ::CreateWindowExW(
+      exStyle, className, L"", style | WS_CHILD | WS_VISIBLE, pixels.left, pixels.top,
       pixels.right - pixels.left, pixels.bottom - pixels.top, parent,
-      reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), ::GetModuleHandleA(nullptr), nullptr);
+      reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), ::GetModuleHandleW(nullptr), nullptr);
   if (!window) return;
   // Screen readers and tests find the control by its name.
-  ::SetWindowTextA(window, Name().c_str());
+  ::SetWindowTextW(window, platform::Wide(Name()).c_str());
   ::SetWindowSubclass(window, &Control::Subclass, kSubclassId, reinterpret_cast<DWORD_PTR>(this));
   AttachWindow(window);
 }

@@ -31,7 +31,7 @@ class Control : public Element {
   MouseHandlers mouse;
 
  protected:
-  Control(std::string name, std::string kind, const char* className, DWORD style, DWORD exStyle,
+  Control(std::string name, std::string kind, const wchar_t* className, DWORD style, DWORD exStyle,
           HWND parent, const RECT& pixels, int id);
   // Messages to the control itself, before the control's own procedure.
   virtual bool PreviewMessage(UINT /*message*/, WPARAM /*wParam*/, LPARAM /*lParam*/,

@@ -3,6 +3,8 @@
 #include <cmath>
 #include <utility>
 
+#include "platform/Utf8.h"
+
 namespace toolkit {
 namespace {
 
@@ -13,8 +15,8 @@ int ScreenDpiY() {
   return screen ? ::GetDeviceCaps(screen.get(), LOGPIXELSY) : USER_DEFAULT_SCREEN_DPI;
 }
 
-LOGFONTA Describe(const std::string& face, double points, bool bold) {
-  LOGFONTA font{};
+LOGFONTW Describe(const std::wstring& face, double points, bool bold) {
+  LOGFONTW font{};
   font.lfHeight = -static_cast<LONG>(std::lround(points * ScreenDpiY() / kPointsPerInch));
   font.lfWeight = bold ? FW_BOLD : FW_NORMAL;
   font.lfCharSet = DEFAULT_CHARSET;
@@ -24,23 +26,26 @@ LOGFONTA Describe(const std::string& face, double points, bool bold) {
 }
 
 bool SameFace(const std::string& a, const std::string& b) {
-  return a.size() == b.size() && ::CompareStringA(LOCALE_SYSTEM_DEFAULT, NORM_IGNORECASE, a.data(),
-                                                  static_cast<int>(a.size()), b.data(),
-                                                  static_cast<int>(b.size())) == CSTR_EQUAL;
+  const std::wstring wideA = platform::Wide(a), wideB = platform::Wide(b);
+  return wideA.size() == wideB.size() &&
+         ::CompareStringW(LOCALE_SYSTEM_DEFAULT, NORM_IGNORECASE, wideA.data(),
+                          static_cast<int>(wideA.size()), wideB.data(),
+                          static_cast<int>(wideB.size())) == CSTR_EQUAL;
 }
 
 }  // namespace
 
 std::string ResolvedFontFace(const std::string& face) {
-  if (face.empty() || face.size() >= LF_FACESIZE) return {};
-  LOGFONTA description = Describe(face, kDesignFontPoints, false);
-  platform::ScopedFont font(::CreateFontIndirectA(&description));
+  const std::wstring wide = platform::Wide(face);
+  if (wide.empty() || wide.size() >= LF_FACESIZE) return {};
+  LOGFONTW description = Describe(wide, kDesignFontPoints, false);
+  platform::ScopedFont font(::CreateFontIndirectW(&description));
   platform::WindowDC screen(nullptr);
   if (!font || !screen) return {};
   platform::ScopedSelect select(screen.get(), font.get());
-  char actual[LF_FACESIZE] = {};
-  int length = ::GetTextFaceA(screen.get(), LF_FACESIZE, actual);
-  return length > 0 ? std::string(actual) : std::string();
+  wchar_t actual[LF_FACESIZE] = {};
+  int length = ::GetTextFaceW(screen.get(), LF_FACESIZE, actual);
+  return length > 0 ? platform::Utf8(actual) : std::string();
 }
 
 Element::Element(std::string name, std::string kind, FontSupport font)
@@ -100,16 +105,16 @@ RECT Element::Bounds() const {
 void Element::AttachWindow(HWND window) {
   window_ = window;
   if (window_ && font_)
-    ::SendMessageA(window_, WM_SETFONT, reinterpret_cast<WPARAM>(font_.get()), TRUE);
+    ::SendMessageW(window_, WM_SETFONT, reinterpret_cast<WPARAM>(font_.get()), TRUE);
 }
 
 void Element::RebuildFont() {
-  LOGFONTA description = Describe(face_, points_, bold_);
-  platform::ScopedFont replacement(::CreateFontIndirectA(&description));
+  LOGFONTW description = Describe(platform::Wide(face_), points_, bold_);
+  platform::ScopedFont replacement(::CreateFontIndirectW(&description));
   if (!replacement) return;
   // The window lets go of the old font before it is deleted.
   if (window_) {
-    ::SendMessageA(window_, WM_SETFONT, reinterpret_cast<WPARAM>(replacement.get()), TRUE);
+    ::SendMessageW(window_, WM_SETFONT, reinterpret_cast<WPARAM>(replacement.get()), TRUE);
   }
   font_ = std::move(replacement);
   OnFontChanged();

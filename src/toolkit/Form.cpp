@@ -46,8 +46,8 @@ using Screen::ToPixels;
 void Form::Load() {
   if (Loaded()) return;
   RECT pixels = ToPixels({0, 0, widthTwips_, heightTwips_});
-  if (!CreateWindowOf(kFormClass, Name().c_str(), WS_POPUP | WS_CLIPCHILDREN, ExtendedStyle(),
-                      pixels, nullptr, 0)) {
+  if (!CreateWindowOf(kFormClass, Name(), WS_POPUP | WS_CLIPCHILDREN, ExtendedStyle(), pixels,
+                      nullptr, 0)) {
     return;
   }
   AttachWindow(Hwnd());
@@ -64,7 +64,7 @@ void Form::Show() {
 void Form::SetOwner(const Form* owner) {
   if (!Loaded()) return;
   HWND ownerWindow = owner ? owner->Hwnd() : nullptr;
-  ::SetWindowLongPtrA(Hwnd(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(ownerWindow));
+  ::SetWindowLongPtrW(Hwnd(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(ownerWindow));
   // The system keeps an owned window above its owner only once it stands
   // there: a new owner made later than this form would otherwise cover it.
   if (owner) ::SetWindowPos(Hwnd(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
@@ -97,13 +97,13 @@ void Form::ShowModal() {
 
   MSG message;
   while (Visible()) {
-    BOOL got = ::GetMessageA(&message, nullptr, 0, 0);
+    BOOL got = ::GetMessageW(&message, nullptr, 0, 0);
     if (got <= 0) {
       if (got == 0) ::PostQuitMessage(static_cast<int>(message.wParam));
       break;
     }
     ::TranslateMessage(&message);
-    ::DispatchMessageA(&message);
+    ::DispatchMessageW(&message);
   }
   for (HWND window : disabled) {
     if (::IsWindow(window)) ::EnableWindow(window, TRUE);

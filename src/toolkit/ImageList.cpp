@@ -28,7 +28,7 @@ bool IsPlainColour(COLORREF colour) {
 // stores its rows. Nothing when the bitmap is not 32-bit.
 std::optional<int> AddMaskedTrueColour(HIMAGELIST list, HBITMAP bitmap, COLORREF maskColour) {
   BITMAP info{};
-  if (!::GetObjectA(bitmap, sizeof info, &info) || info.bmBitsPixel != kTrueColourBits ||
+  if (!::GetObjectW(bitmap, sizeof info, &info) || info.bmBitsPixel != kTrueColourBits ||
       info.bmWidthBytes != info.bmWidth * static_cast<LONG>(sizeof(RGBQUAD))) {
     return std::nullopt;
   }

@@ -1,5 +1,7 @@
 #include "toolkit/Label.h"
 
+#include "platform/Utf8.h"
+
 namespace toolkit {
 
 Label::Label(std::string name, int index, const TwipsRect& twips)
@@ -36,7 +38,8 @@ void Label::Draw(HDC dc) const {
   int oldMode = ::SetBkMode(dc, TRANSPARENT);
   COLORREF oldColour = ::SetTextColor(dc, foreColor_);
   HGDIOBJ oldFont = Font() ? ::SelectObject(dc, Font()) : nullptr;
-  ::DrawTextA(dc, caption_.c_str(), static_cast<int>(caption_.size()), &area,
+  const std::wstring caption = platform::Wide(caption_);
+  ::DrawTextW(dc, caption.c_str(), static_cast<int>(caption.size()), &area,
               DT_LEFT | DT_WORDBREAK | DT_NOPREFIX);
   if (oldFont) ::SelectObject(dc, oldFont);
   ::SetTextColor(dc, oldColour);

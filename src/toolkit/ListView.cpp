@@ -2,77 +2,80 @@
 
 #include <limits>
 
+#include "platform/Utf8.h"
+
 namespace toolkit {
 
 ListView::ListView(std::string name, HWND parent, const RECT& pixels, int id)
-    : Control(std::move(name), "ListView", WC_LISTVIEWA,
+    : Control(std::move(name), "ListView", WC_LISTVIEWW,
               WS_TABSTOP | LVS_ICON | LVS_SINGLESEL | LVS_SHAREIMAGELISTS | LVS_AUTOARRANGE |
                   LVS_ALIGNTOP,
               0, parent, pixels, id) {}
 
 void ListView::SetIcons(const ImageList* large) {
   large_ = large;
-  ::SendMessageA(Hwnd(), LVM_SETIMAGELIST, LVSIL_NORMAL,
+  ::SendMessageW(Hwnd(), LVM_SETIMAGELIST, LVSIL_NORMAL,
                  reinterpret_cast<LPARAM>(large ? large->Handle() : nullptr));
 }
 
 void ListView::SetSmallIcons(const ImageList* small) {
-  ::SendMessageA(Hwnd(), LVM_SETIMAGELIST, LVSIL_SMALL,
+  ::SendMessageW(Hwnd(), LVM_SETIMAGELIST, LVSIL_SMALL,
                  reinterpret_cast<LPARAM>(small ? small->Handle() : nullptr));
 }
 
 void ListView::ArrangeFromTop() {
-  LONG_PTR style = ::GetWindowLongPtrA(Hwnd(), GWL_STYLE);
+  LONG_PTR style = ::GetWindowLongPtrW(Hwnd(), GWL_STYLE);
   style = (style & ~static_cast<LONG_PTR>(LVS_ALIGNMASK)) | LVS_ALIGNTOP | LVS_AUTOARRANGE;
-  ::SetWindowLongPtrA(Hwnd(), GWL_STYLE, style);
+  ::SetWindowLongPtrW(Hwnd(), GWL_STYLE, style);
 }
 
 COLORREF ListView::BackColor() const {
-  return static_cast<COLORREF>(::SendMessageA(Hwnd(), LVM_GETBKCOLOR, 0, 0));
+  return static_cast<COLORREF>(::SendMessageW(Hwnd(), LVM_GETBKCOLOR, 0, 0));
 }
 
 void ListView::AddItem(const std::string& key, const std::string& text, int icon) {
   if (!large_ || icon < 1 || icon > large_->Count()) throw ElementError("Invalid picture");
   if (keys_.count(key)) throw ElementError("Key is not unique in collection");
-  LVITEMA item{};
+  std::wstring wide = platform::Wide(text);
+  LVITEMW item{};
   item.mask = LVIF_TEXT | LVIF_IMAGE;
   // Past the end appends: one message fewer per item than asking the count.
   item.iItem = std::numeric_limits<int>::max();
-  item.pszText = const_cast<char*>(text.c_str());
+  item.pszText = wide.data();
   item.iImage = icon - 1;
-  LRESULT at = ::SendMessageA(Hwnd(), LVM_INSERTITEMA, 0, reinterpret_cast<LPARAM>(&item));
+  LRESULT at = ::SendMessageW(Hwnd(), LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
   if (at < 0) throw ElementError("The list refused the item");
   keys_[key] = static_cast<int>(at) + 1;
 }
 
 void ListView::Clear() {
-  ::SendMessageA(Hwnd(), LVM_DELETEALLITEMS, 0, 0);
+  ::SendMessageW(Hwnd(), LVM_DELETEALLITEMS, 0, 0);
   keys_.clear();
 }
 
 int ListView::Count() const {
-  return static_cast<int>(::SendMessageA(Hwnd(), LVM_GETITEMCOUNT, 0, 0));
+  return static_cast<int>(::SendMessageW(Hwnd(), LVM_GETITEMCOUNT, 0, 0));
 }
 
 int ListView::SelectedIndex() const {
-  LRESULT at = ::SendMessageA(Hwnd(), LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED);
+  LRESULT at = ::SendMessageW(Hwnd(), LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED);
   return at < 0 ? 0 : static_cast<int>(at) + 1;
 }
 
 void ListView::Select(int index) {
-  LVITEMA state{};
+  LVITEMW state{};
   state.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
   state.state = LVIS_SELECTED | LVIS_FOCUSED;
-  ::SendMessageA(Hwnd(), LVM_SETITEMSTATE, static_cast<WPARAM>(index - 1),
+  ::SendMessageW(Hwnd(), LVM_SETITEMSTATE, static_cast<WPARAM>(index - 1),
                  reinterpret_cast<LPARAM>(&state));
 }
 
 ListView::ItemBatch::ItemBatch(ListView& list) : list_(list.Hwnd()) {
-  ::SendMessageA(list_, WM_SETREDRAW, FALSE, 0);
+  ::SendMessageW(list_, WM_SETREDRAW, FALSE, 0);
 }
 
 ListView::ItemBatch::~ItemBatch() {
-  ::SendMessageA(list_, WM_SETREDRAW, TRUE, 0);
+  ::SendMessageW(list_, WM_SETREDRAW, TRUE, 0);
   ::InvalidateRect(list_, nullptr, TRUE);
 }
 

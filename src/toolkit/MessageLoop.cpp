@@ -6,13 +6,13 @@ namespace toolkit {
 namespace {
 void Dispatch(MSG& message) {
   ::TranslateMessage(&message);
-  ::DispatchMessageA(&message);
+  ::DispatchMessageW(&message);
 }
 }  // namespace
 
 void DoEvents() {
   MSG message;
-  while (::PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
+  while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
     if (message.message == WM_QUIT) {
       // Leave the quit request for the main loop that owns it.
       ::PostQuitMessage(static_cast<int>(message.wParam));
@@ -24,7 +24,7 @@ void DoEvents() {
 
 void RunMessageLoop() {
   MSG message;
-  while (::GetMessageA(&message, nullptr, 0, 0) > 0) Dispatch(message);
+  while (::GetMessageW(&message, nullptr, 0, 0) > 0) Dispatch(message);
 }
 
 }  // namespace toolkit

@@ -5,7 +5,7 @@ namespace {
 
 std::int16_t g_pointer = kPointerDefault;
 
-LPCSTR SystemCursorFor(std::int16_t shape) {
+LPCWSTR SystemCursorFor(std::int16_t shape) {
   switch (shape) {
     case kPointerCross: return IDC_CROSS;
     case kPointerIBeam: return IDC_IBEAM;
@@ -31,11 +31,11 @@ void RefreshWindowPointer() {
   if (!::GetCursorPos(&at)) return;
   HWND under = ::WindowFromPoint(at);
   if (!under || ::GetWindowThreadProcessId(under, nullptr) != ::GetCurrentThreadId()) {
-    ::SetCursor(::LoadCursorA(nullptr, IDC_ARROW));
+    ::SetCursor(::LoadCursorW(nullptr, IDC_ARROW));
     return;
   }
-  LRESULT hit = ::SendMessageA(under, WM_NCHITTEST, 0, MAKELPARAM(at.x, at.y));
-  ::SendMessageA(under, WM_SETCURSOR, reinterpret_cast<WPARAM>(under),
+  LRESULT hit = ::SendMessageW(under, WM_NCHITTEST, 0, MAKELPARAM(at.x, at.y));
+  ::SendMessageW(under, WM_SETCURSOR, reinterpret_cast<WPARAM>(under),
                  MAKELPARAM(static_cast<WORD>(hit), WM_MOUSEMOVE));
 }
 
@@ -52,7 +52,7 @@ void SetProgramPointer(std::int16_t shape) {
 
 bool ApplyProgramPointer() {
   if (g_pointer == kPointerDefault) return false;
-  ::SetCursor(::LoadCursorA(nullptr, SystemCursorFor(g_pointer)));
+  ::SetCursor(::LoadCursorW(nullptr, SystemCursorFor(g_pointer)));
   return true;
 }
 

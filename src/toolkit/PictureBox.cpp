@@ -34,14 +34,14 @@ bool PictureSize(const platform::Picture& picture, SIZE& size) {
     ICONINFO info{};
     if (!::GetIconInfo(static_cast<HICON>(handle), &info)) return false;
     BITMAP mask{};
-    ::GetObjectA(info.hbmMask, sizeof mask, &mask);
+    ::GetObjectW(info.hbmMask, sizeof mask, &mask);
     size = {mask.bmWidth, info.hbmColor ? mask.bmHeight : mask.bmHeight / 2};
     if (info.hbmColor) ::DeleteObject(info.hbmColor);
     ::DeleteObject(info.hbmMask);
     return true;
   }
   BITMAP bitmap{};
-  if (!::GetObjectA(handle, sizeof bitmap, &bitmap)) return false;
+  if (!::GetObjectW(handle, sizeof bitmap, &bitmap)) return false;
   size = {bitmap.bmWidth, bitmap.bmHeight};
   return true;
 }
@@ -56,7 +56,7 @@ void DrawPicture(HDC dc, const platform::Picture& picture) {
     return;
   }
   BITMAP info{};
-  if (!::GetObjectA(handle, sizeof info, &info)) return;
+  if (!::GetObjectW(handle, sizeof info, &info)) return;
   platform::ScopedMemoryDC source(::CreateCompatibleDC(dc));
   platform::ScopedSelect select(source.get(), handle);
   ::BitBlt(dc, 0, 0, info.bmWidth, info.bmHeight, source.get(), 0, 0, SRCCOPY);
@@ -74,8 +74,8 @@ PictureBox::PictureBox(std::string name, HWND parent, const RECT& pixels, int id
   imageDC_.reset(::CreateCompatibleDC(nullptr));
   PrepareDC(imageDC_.get());
   MakeImage();
-  CreateWindowOf(kPictureBoxClass, Name().c_str(), WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, 0,
-                 pixels, parent, id);
+  CreateWindowOf(kPictureBoxClass, Name(), WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, 0, pixels,
+                 parent, id);
   if (Hwnd()) PrepareDC(::GetDC(Hwnd()));  // CS_OWNDC: the window keeps this DC
   AttachWindow(Hwnd());
 }

@@ -1,5 +1,7 @@
 #include "toolkit/TextBox.h"
 
+#include "platform/Utf8.h"
+
 namespace toolkit {
 namespace {
 DWORD StyleFor(TextBox::Lines lines) {
@@ -12,21 +14,21 @@ DWORD StyleFor(TextBox::Lines lines) {
 }  // namespace
 
 TextBox::TextBox(std::string name, HWND parent, const RECT& pixels, int id, Lines lines)
-    : Control(std::move(name), "TextBox", "EDIT", StyleFor(lines), WS_EX_CLIENTEDGE, parent, pixels,
-              id) {
+    : Control(std::move(name), "TextBox", L"EDIT", StyleFor(lines), WS_EX_CLIENTEDGE, parent,
+              pixels, id) {
   SetText("");
 }
 
 std::string TextBox::Text() const {
-  int length = ::GetWindowTextLengthA(Hwnd());
-  std::string text(static_cast<size_t>(length) + 1, '\0');
-  int copied = ::GetWindowTextA(Hwnd(), text.data(), length + 1);
+  int length = ::GetWindowTextLengthW(Hwnd());
+  std::wstring text(static_cast<size_t>(length) + 1, L'\0');
+  int copied = ::GetWindowTextW(Hwnd(), text.data(), length + 1);
   text.resize(copied > 0 ? static_cast<size_t>(copied) : 0);
-  return text;
+  return platform::Utf8(text);
 }
 
 void TextBox::SetText(const std::string& text) {
-  ::SetWindowTextA(Hwnd(), text.c_str());
+  ::SetWindowTextW(Hwnd(), platform::Wide(text).c_str());
 }
 
 void TextBox::OnCommand(WORD code) {
@@ -34,7 +36,7 @@ void TextBox::OnCommand(WORD code) {
 }
 
 bool TextBox::PreviewMessage(UINT message, WPARAM wParam, LPARAM, LRESULT&) {
-  if (message == WM_CHAR && onKeyPress) onKeyPress(static_cast<char>(wParam));
+  if (message == WM_CHAR && onKeyPress) onKeyPress(static_cast<wchar_t>(wParam));
   return false;
 }
 

@@ -19,8 +19,8 @@ class TextBox : public Control {
   // After the text changed by typing; the system tells a text the program
   // sets only to a one-line box.
   std::function<void()> onChange;
-  // A character typed, before the box takes it.
-  std::function<void(char)> onKeyPress;
+  // A character typed (UTF-16), before the box takes it.
+  std::function<void(wchar_t)> onKeyPress;
 
  private:
   void OnCommand(WORD code) override;

@@ -25,7 +25,7 @@ class ToolTips {
   std::string TipOf(HWND control) const;
 
  private:
-  void Put(TTTOOLINFOA& tool);
+  void Put(TTTOOLINFOW& tool, const std::string& text);
   HWND form_;
   HWND tips_;
 };

@@ -1,5 +1,6 @@
 #include "toolkit/WindowBase.h"
 
+#include "platform/Utf8.h"
 #include "toolkit/MousePointer.h"
 
 namespace toolkit {
@@ -9,27 +10,28 @@ WindowBase::~WindowBase() {
 }
 
 bool WindowBase::RegisterWindowClass(const char* className, ClassStyle classStyle) {
-  WNDCLASSEXA existing{};
+  const std::wstring name = platform::Wide(className);
+  WNDCLASSEXW existing{};
   existing.cbSize = sizeof existing;
-  HINSTANCE instance = ::GetModuleHandleA(nullptr);
-  if (::GetClassInfoExA(instance, className, &existing)) return true;
-  WNDCLASSEXA windowClass{};
+  HINSTANCE instance = ::GetModuleHandleW(nullptr);
+  if (::GetClassInfoExW(instance, name.c_str(), &existing)) return true;
+  WNDCLASSEXW windowClass{};
   windowClass.cbSize = sizeof windowClass;
   windowClass.style = classStyle.style;
   windowClass.lpfnWndProc = &WindowBase::Procedure;
   windowClass.hInstance = instance;
-  windowClass.hCursor = ::LoadCursorA(nullptr, IDC_ARROW);
+  windowClass.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
   windowClass.hbrBackground = classStyle.background;
-  windowClass.lpszClassName = className;
-  return ::RegisterClassExA(&windowClass) != 0;
+  windowClass.lpszClassName = name.c_str();
+  return ::RegisterClassExW(&windowClass) != 0;
 }
 
-bool WindowBase::CreateWindowOf(const char* className, const char* text, DWORD style, DWORD exStyle,
-                                const RECT& pixels, HWND parent, int id) {
+bool WindowBase::CreateWindowOf(const char* className, const std::string& text, DWORD style,
+                                DWORD exStyle, const RECT& pixels, HWND parent, int id) {
   HMENU menuOrId = (style & WS_CHILD) ? reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)) : nullptr;
-  ::CreateWindowExA(exStyle, className, text, style, pixels.left, pixels.top,
-                    pixels.right - pixels.left, pixels.bottom - pixels.top, parent, menuOrId,
-                    ::GetModuleHandleA(nullptr), this);
+  ::CreateWindowExW(exStyle, platform::Wide(className).c_str(), platform::Wide(text).c_str(), style,
+                    pixels.left, pixels.top, pixels.right - pixels.left, pixels.bottom - pixels.top,
+                    parent, menuOrId, ::GetModuleHandleW(nullptr), this);
   return hwnd_ != nullptr;
 }
 
@@ -42,18 +44,18 @@ LRESULT WindowBase::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 LRESULT WindowBase::Default(UINT message, WPARAM wParam, LPARAM lParam) {
-  return ::DefWindowProcA(hwnd_, message, wParam, lParam);
+  return ::DefWindowProcW(hwnd_, message, wParam, lParam);
 }
 
 LRESULT CALLBACK WindowBase::Procedure(HWND window, UINT message, WPARAM wParam,
                                        LPARAM lParam) noexcept {
-  auto* self = reinterpret_cast<WindowBase*>(::GetWindowLongPtrA(window, GWLP_USERDATA));
+  auto* self = reinterpret_cast<WindowBase*>(::GetWindowLongPtrW(window, GWLP_USERDATA));
   if (message == WM_NCCREATE) {
-    self = static_cast<WindowBase*>(reinterpret_cast<CREATESTRUCTA*>(lParam)->lpCreateParams);
+    self = static_cast<WindowBase*>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams);
     self->hwnd_ = window;
-    ::SetWindowLongPtrA(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(self));
+    ::SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(self));
   }
-  if (!self) return ::DefWindowProcA(window, message, wParam, lParam);
+  if (!self) return ::DefWindowProcW(window, message, wParam, lParam);
   if (message == WM_SETCURSOR && ApplyProgramPointer()) return TRUE;
 
   LRESULT result = 0;
@@ -62,10 +64,10 @@ LRESULT CALLBACK WindowBase::Procedure(HWND window, UINT message, WPARAM wParam,
   } catch (...) {
     // A handler that fails is stepped over, as every failure of this program
     // is; the system must never see the exception.
-    result = ::DefWindowProcA(window, message, wParam, lParam);
+    result = ::DefWindowProcW(window, message, wParam, lParam);
   }
   if (message == WM_NCDESTROY) {
-    ::SetWindowLongPtrA(window, GWLP_USERDATA, 0);
+    ::SetWindowLongPtrW(window, GWLP_USERDATA, 0);
     self->hwnd_ = nullptr;
   }
   return result;

@@ -5,6 +5,8 @@
 
 #include <windows.h>
 
+#include <string>
+
 namespace toolkit {
 
 class WindowBase {
@@ -24,7 +26,7 @@ class WindowBase {
   // Registers `className` for this program on first use.
   static bool RegisterWindowClass(const char* className, ClassStyle classStyle);
 
-  bool CreateWindowOf(const char* className, const char* text, DWORD style, DWORD exStyle,
+  bool CreateWindowOf(const char* className, const std::string& text, DWORD style, DWORD exStyle,
                       const RECT& pixels, HWND parent, int id);
   void DestroyOwnWindow();
 

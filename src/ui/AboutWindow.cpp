@@ -48,7 +48,7 @@ void AboutWindow::CreateElements() {
   splashText_ = &AddLabel(names::kSplashText, -1, {45, 135, 645, 510});
 
   SetScaleMode(toolkit::ScaleMode::kPixels);
-  ::SendMessageA(text_->Hwnd(), EM_SETREADONLY, TRUE, 0);
+  ::SendMessageW(text_->Hwnd(), EM_SETREADONLY, TRUE, 0);
   for (toolkit::PictureBox* face :
        {updatesFace_, webPageFace_, helpFace_, okFace_, settingsFace_, skin_, logo_}) {
     face->SetAutoRedraw(true);

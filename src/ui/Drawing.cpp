@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "platform/ScopedHandle.h"
+#include "platform/Utf8.h"
 #include "toolkit/Screen.h"
 
 namespace ui {
@@ -84,9 +85,10 @@ void DrawEtchedLine(toolkit::Canvas& window, float& x1, float& y1, float& x2, fl
 
 void DrawCaption(toolkit::PictureBox& surface, const std::string& text, WindowText windowText) {
   RECT area{0, kCaptionTop, surface.ScaleWidth(), surface.ScaleHeight()};
-  ::DrawTextA(surface.hDC(), text.c_str(), static_cast<int>(text.size()), &area, kOneCentredLine);
+  const std::wstring wide = platform::Wide(text);
+  ::DrawTextW(surface.hDC(), wide.c_str(), static_cast<int>(wide.size()), &area, kOneCentredLine);
   if (windowText == WindowText::kSet && surface.Hwnd()) {
-    ::SetWindowTextA(surface.Hwnd(), text.c_str());
+    ::SetWindowTextW(surface.Hwnd(), wide.c_str());
   }
 }
 
@@ -97,7 +99,7 @@ void TileBitmap(HWND window, HBITMAP bitmap) {
   platform::ScopedMemoryDC memory(::CreateCompatibleDC(windowDC.get()));
   platform::ScopedSelect select(memory.get(), bitmap);
   BITMAP info{};
-  ::GetObjectA(bitmap, sizeof info, &info);
+  ::GetObjectW(bitmap, sizeof info, &info);
   const int w = info.bmWidth, h = info.bmHeight;
   if (w <= 0 || h <= 0) return;
   const int columns = client.right / w, rows = client.bottom / h;

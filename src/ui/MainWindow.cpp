@@ -6,6 +6,7 @@
 
 #include "platform/FileSystem.h"
 #include "platform/ShellIcon.h"
+#include "platform/Utf8.h"
 #include "resource_ids.h"
 #include "toolkit/MessageLoop.h"
 #include "ui/ControlIds.h"
@@ -34,6 +35,7 @@ constexpr std::int16_t kRefuseClose = 100;
 // Tool tips of labels are areas of the form, known by these numbers.
 constexpr UINT_PTR kDragStripTipId = 1;
 constexpr UINT_PTR kHelpTipId = 2;
+constexpr UINT_PTR kFolderTipId = 3;
 
 // An element's position as the form designer gives it, in twips.
 TwipsRect DesignPosition(const toolkit::Element& element) {
@@ -138,8 +140,8 @@ void MainWindow::CreateElements() {
     ShowApplyButton(true);
   };
   recentBox_->onClick = [this] { OnRecentChosen(); };
-  recentBox_->onKeyPress = [this](char key) {
-    if (key == '\r') OnRecentChosen();
+  recentBox_->onKeyPress = [this](wchar_t key) {
+    if (key == L'\r') OnRecentChosen();
   };
   dragStrip_->mouse.onMouseDown = [this](const toolkit::MouseEvent&) { DragWindow(*this); };
   dragStrip_->mouse.onDblClick = [this] { about_.Open(Hwnd()); };
@@ -183,14 +185,17 @@ void MainWindow::OnLoad() {
   Tips().SetTip(infoTipBox_->Hwnd(), context_.Text(IDS_TIP_INFOTIP));
   windowIcon_ = context_.pictures.Icon(IDI_WINDOW);
   LPARAM icon = reinterpret_cast<LPARAM>(windowIcon_.Handle());
-  ::SendMessageA(Hwnd(), WM_SETICON, ICON_BIG, icon);
-  ::SendMessageA(Hwnd(), WM_SETICON, ICON_SMALL, icon);
-  ::SetWindowTextA(
-      Hwnd(),
-      (context_.Text(IDS_PRODUCT_NAME) + " - " + context_.Text(IDS_PRODUCT_TAGLINE)).c_str());
+  ::SendMessageW(Hwnd(), WM_SETICON, ICON_BIG, icon);
+  ::SendMessageW(Hwnd(), WM_SETICON, ICON_SMALL, icon);
+  ::SetWindowTextW(Hwnd(), platform::Wide(context_.Text(IDS_PRODUCT_NAME) + " - " +
+                                          context_.Text(IDS_PRODUCT_TAGLINE))
+                               .c_str());
   const std::string aboutTip = context_.Text(IDS_TIP_ABOUT);
   Tips().SetTip(kDragStripTipId, dragStrip_->Bounds(), aboutTip);
   Tips().SetTip(kHelpTipId, helpLink_->Bounds(), aboutTip);
+  // The label has room for the start of a long path only; its tip holds all of it.
+  Tips().SetTip(kFolderTipId, PairLabel(names::kCurrentIconLabel, 1).Bounds(),
+                context_.targetFolder);
 
   ShowDefaultFolderIcon();
   ShowApplyButton(false);

@@ -12,6 +12,7 @@
 #include "platform/IconFile.h"
 #include "platform/MessageBoxes.h"
 #include "platform/ShellIcon.h"
+#include "platform/Utf8.h"
 #include "resource_ids.h"
 #include "toolkit/MessageLoop.h"
 #include "toolkit/WaitCursor.h"
@@ -27,6 +28,9 @@ constexpr LPARAM kDefaultSpacing = -1;
 constexpr std::chrono::milliseconds kFrame{16};
 constexpr std::int32_t kChooserFlags =
     OFN_EXPLORER | OFN_FILEMUSTEXIST | OFN_PATHMUSTEXIST | OFN_HIDEREADONLY;
+// Room for the longest path Windows allows, so that a file deep in the tree
+// can be chosen.
+constexpr std::int32_t kLongestPath = 32767;
 
 }  // namespace
 
@@ -104,7 +108,9 @@ void MainWindow::LoadIcons() {
   browser_.SetLoading(false);
   platform::ReleaseIcon(icon);
   // The strip's window text catches up with the last progress it shows.
-  if (statusStrip_->Hwnd()) ::SetWindowTextA(statusStrip_->Hwnd(), shownProgress_.c_str());
+  if (statusStrip_->Hwnd()) {
+    ::SetWindowTextW(statusStrip_->Hwnd(), platform::Wide(shownProgress_).c_str());
+  }
 
   iconList_->SetIcons(iconImages_);
   ListIcons(count);
@@ -161,9 +167,9 @@ void MainWindow::OnDefaultIconDblClick() {
   Unload();
 }
 
-// The line's text comes from the list the box was filled from, not from the
-// box: Wine converts a line read back through the ANSI call in a buffer of
-// 512 characters and faults on a longer one.
+// The line's text comes from the list the box was filled from, which holds
+// the path exactly as opened, not back from the box (Wine's ANSI form of that
+// message faulted on lines beyond 512 characters).
 void MainWindow::OnRecentChosen() {
   const int line = recentBox_->ListIndex();
   const core::RecentIconFiles::Entries& entries = recent_.List();
@@ -197,6 +203,7 @@ void MainWindow::Browse() {
   chooser.DialogTitle(context_.Text(IDS_CHOOSER_TITLE));
   chooser.Filter(context_.Text(IDS_CHOOSER_FILTER));
   chooser.Flags(kChooserFlags);
+  chooser.MaxFileSize(kLongestPath);
   chooser.InitDir(browser_.ChooserFolder(context_.targetFolder));
 
   browsing_ = true;
@@ -210,8 +217,8 @@ void MainWindow::Browse() {
 }
 
 void MainWindow::SetIconSpacing() {
-  ::SendMessageA(iconList_->Hwnd(), LVM_SETICONSPACING, 0, kDefaultSpacing);
-  ::SendMessageA(iconList_->Hwnd(), LVM_SETICONSPACING, 0, MAKELPARAM(kIconSpacing, kIconSpacing));
+  ::SendMessageW(iconList_->Hwnd(), LVM_SETICONSPACING, 0, kDefaultSpacing);
+  ::SendMessageW(iconList_->Hwnd(), LVM_SETICONSPACING, 0, MAKELPARAM(kIconSpacing, kIconSpacing));
 }
 
 void MainWindow::ShowApplyButton(bool visible) {

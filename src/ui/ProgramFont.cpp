@@ -2,7 +2,9 @@
 
 #include <windows.h>
 
+#include "platform/FileSystem.h"
 #include "platform/ScopedHandle.h"
+#include "platform/SystemPath.h"
 #include "resource_ids.h"
 #include "toolkit/MessageLoop.h"
 
@@ -15,9 +17,9 @@ bool InstallProgramFont(toolkit::Form& mainWindow, const std::string& programFol
   {
     // Written over from the start and not shortened: a file left by an
     // earlier run, or one that cannot be written, is used as it is.
-    platform::ScopedKernelHandle file(::CreateFileA(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ,
-                                                    nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL,
-                                                    nullptr));
+    platform::ScopedKernelHandle file(::CreateFileW(platform::FilePath(path).c_str(), GENERIC_WRITE,
+                                                    FILE_SHARE_READ, nullptr, OPEN_ALWAYS,
+                                                    FILE_ATTRIBUTE_NORMAL, nullptr));
     if (file.get() != INVALID_HANDLE_VALUE) {
       DWORD written = 0;
       ::WriteFile(file.get(), data.data(), static_cast<DWORD>(data.size()), &written, nullptr);
@@ -25,7 +27,7 @@ bool InstallProgramFont(toolkit::Form& mainWindow, const std::string& programFol
       file.release();
     }
   }
-  ::AddFontResourceA(path.c_str());
+  ::AddFontResourceW(platform::ShellPath(path).c_str());
   // Refused when the system would substitute another face; the check below
   // says so.
   toolkit::TryProperty([&] { mainWindow.SetFontName(kProgramFontFace); });
@@ -34,9 +36,9 @@ bool InstallProgramFont(toolkit::Form& mainWindow, const std::string& programFol
 
 void RemoveProgramFont(const std::string& programFolder) {
   const std::string path = programFolder + kProgramFontFile;
-  ::RemoveFontResourceA(path.c_str());
+  ::RemoveFontResourceW(platform::ShellPath(path).c_str());
   toolkit::DoEvents();
-  ::DeleteFileA(path.c_str());
+  platform::RemoveFile(path);
 }
 
 }  // namespace ui

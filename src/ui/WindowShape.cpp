@@ -7,7 +7,7 @@
 namespace ui {
 namespace {
 constexpr double kShapePoints = 240;
-constexpr char kShapeLetter[] = "A";
+constexpr wchar_t kShapeLetter[] = L"A";
 }  // namespace
 
 HRGN ApplyWindowShape(toolkit::Form& window) {
@@ -21,7 +21,7 @@ HRGN ApplyWindowShape(toolkit::Form& window) {
     platform::ScopedSelect font(dc, window.Font());
     int oldMode = ::SetBkMode(dc, TRANSPARENT);
     ::BeginPath(dc);
-    ::TextOutA(dc, 0, 0, kShapeLetter, 1);
+    ::TextOutW(dc, 0, 0, kShapeLetter, 1);
     ::EndPath(dc);
     ::SetBkMode(dc, oldMode);
     path = ::PathToRegion(dc);
@@ -49,7 +49,7 @@ void ZoomWindow(toolkit::Form& window, bool closing, const RECT& startRect) {
 
 void DragWindow(toolkit::Form& window) {
   ::ReleaseCapture();
-  ::SendMessageA(window.Hwnd(), WM_NCLBUTTONDOWN, HTCAPTION, 0);
+  ::SendMessageW(window.Hwnd(), WM_NCLBUTTONDOWN, HTCAPTION, 0);
 }
 
 }  // namespace ui

@@ -1,8 +1,8 @@
-// How start-up reads its command line and picks its language library.
+// How start-up reads its command line; the language library it picks is the
+// end-to-end start table's.
 #include <gtest/gtest.h>
 
 #include "app/CommandLine.h"
-#include "support/TestSupport.h"
 
 namespace {
 
@@ -26,23 +26,6 @@ TEST(CommandLine, TheFolderIsEverythingAfterTheProgramName) {
     EXPECT_EQ(arguments, row.arguments) << row.full;
     EXPECT_EQ(app::TargetFolderFrom(arguments), row.folder) << row.full;
     EXPECT_EQ(app::IsBlankCommandLine(arguments), row.blank) << row.full;
-  }
-}
-
-TEST(CommandLine, ConfigIniNamesTheLanguageElseTheFirstLibraryFound) {
-  struct Row {
-    const char* config;  // nullptr: no Config.ini
-    std::vector<const char*> libraries;
-    const char* chosen;
-  } rows[] = {{"[Config]\r\nLANGUAGE=LANG_XYZ.DLL\r\n", {}, "LANG_XYZ.DLL"},
-              {"[Config]\r\nLANGUAGE=\r\n", {"LANG_ESP.DLL", "LANG_ENG.DLL"}, "LANG_ENG.DLL"},
-              {nullptr, {"LANG_ESP.DLL"}, "LANG_ESP.DLL"},
-              {nullptr, {}, ""}};
-  for (const Row& row : rows) {
-    testing_support::ScratchFolder folder;
-    if (row.config) testing_support::WriteWholeFile(folder / "Config.ini", row.config);
-    for (const char* library : row.libraries) testing_support::WriteWholeFile(folder / library, "");
-    EXPECT_EQ(app::ChooseLanguageFile(folder.Path() + "\\"), row.chosen);
   }
 }
 

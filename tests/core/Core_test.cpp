@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 #include <shlobj.h>
 
-#include "core/ColourDepth.h"
 #include "core/DefaultFolderIcon.h"
 #include "core/FolderCustomisation.h"
 #include "core/IconBrowser.h"
@@ -10,6 +9,7 @@
 #include "platform/IniFile.h"
 #include "platform/ResourceLibrary.h"
 #include "platform/ShellIcon.h"
+#include "platform/Utf8.h"
 #include "support/TestSupport.h"
 
 namespace {
@@ -17,6 +17,19 @@ namespace {
 using testing_support::Notification;
 using testing_support::ReadWholeFile;
 using testing_support::WriteWholeFile;
+
+// The bytes of a profile file holding `text`: UTF-16 after a byte-order
+// mark, or ANSI.
+std::string ProfileBytes(const std::string& text, bool unicode) {
+  const std::wstring wide = platform::Wide(text);
+  if (unicode)
+    return "\xFF\xFE" + std::string(reinterpret_cast<const char*>(wide.data()), wide.size() * 2);
+  std::string bytes(wide.size() * 2, '\0');
+  bytes.resize(::WideCharToMultiByte(CP_ACP, 0, wide.data(), static_cast<int>(wide.size()),
+                                     bytes.data(), static_cast<int>(bytes.size()), nullptr,
+                                     nullptr));
+  return bytes;
+}
 
 DWORD Attributes(const std::string& path) {
   return ::GetFileAttributesA(path.c_str());
@@ -43,26 +56,34 @@ TEST_F(FolderTest, ANewDesktopIniGetsTheDefaultsTheTipAndTheMark) {
   EXPECT_EQ(settings.infoTip.substr(0, 22), "Folder customized with");
 }
 
-TEST_F(FolderTest, AnExistingDesktopIniKeepsItsOtherKeysAndGetsNoMark) {
-  WriteWholeFile(SettingsFile(), "[.ShellClassInfo]\r\nIconResource=x.dll,-3\r\nInfoTip=old\r\n");
-  core::FolderSettings settings{5, 1, "a.ico", 3, ""};
-  core::WriteFolderSettings(Folder(), settings, false, language_);
-  EXPECT_EQ(ReadWholeFile(SettingsFile()),
-            "[.ShellClassInfo]\r\nIconResource=x.dll,-3\r\nInfoTip=\r\nConfirmFileOp=5\r\n"
-            "NoSharing=1\r\nIconFile=a.ico\r\nIconIndex=3\r\n");
-}
-
-TEST_F(FolderTest, BadNumbersLeaveTheirFieldsAndTheRestIsRead) {
-  WriteWholeFile(SettingsFile(),
-                 "[.ShellClassInfo]\r\nConfirmFileOp=yes\r\nNoSharing=2147483648\r\n"
-                 "IconFile= c:\\a.ico \r\nIconIndex= -4 \r\nInfoTip=two\r\n");
-  core::FolderSettings settings{9, 8, "", 0, ""};
-  core::ReadFolderSettings(Folder(), settings);
-  EXPECT_EQ(settings.confirmFileOp, 9);
-  EXPECT_EQ(settings.noSharing, 8);
-  EXPECT_EQ(settings.iconFile, "c:\\a.ico");
-  EXPECT_EQ(settings.iconIndex, -4);
-  EXPECT_EQ(settings.infoTip, "two");
+// An existing file keeps its other sections and keys, and a key its place;
+// it becomes UTF-16 only when a text needs it, as Explorer keeps such files.
+TEST_F(FolderTest, AnExistingDesktopIniKeepsWhatItHeldAndTurnsUnicodeOnlyWhenNeeded) {
+  const std::string before =
+      "[ViewState]\r\nMode=café\r\n[.ShellClassInfo]\r\nIconResource=x,-3\r\n";
+  struct Row {
+    const char* name;
+    bool unicodeBefore;
+    std::string iconFile, tip;
+    bool unicodeAfter;
+  } rows[] = {{"ANSI file and text", false, "c:\\café.ico", "año", false},
+              {"a Chinese icon path", false, "c:\\写真\\a.ico", "año", true},
+              {"a Greek info tip", false, "c:\\a.ico", "Ελλάδα", true},
+              {"a Unicode file stays so", true, "c:\\a.ico", "año", true}};
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.name);
+    WriteWholeFile(SettingsFile(), ProfileBytes(before + "InfoTip=old\r\n", row.unicodeBefore));
+    core::FolderSettings settings{5, 1, row.iconFile, 2, row.tip};
+    core::WriteFolderSettings(Folder(), settings, false, language_);
+    const std::string after = before + "InfoTip=" + row.tip +
+                              "\r\nConfirmFileOp=5\r\nNoSharing=1\r\n" +
+                              "IconFile=" + row.iconFile + "\r\nIconIndex=2\r\n";
+    EXPECT_EQ(ReadWholeFile(SettingsFile()), ProfileBytes(after, row.unicodeAfter))
+        << "no mark in a file that existed";
+    core::FolderSettings read;
+    core::ReadFolderSettings(Folder(), read);
+    EXPECT_EQ(read.iconFile + read.infoTip, row.iconFile + row.tip) << "read in either form";
+  }
 }
 
 TEST_F(FolderTest, ApplyMarksFileAndFolderAndAnnouncesBothInOrder) {
@@ -158,14 +179,6 @@ TEST(DefaultFolderIcon, LocationsSplitAtTheFirstComma) {
   EXPECT_EQ(core::DefaultFolderIcon(), (core::IconLocation{"c:\\icons\\f.dll", -7}));
   ::RegDeleteValueA(key, place.valueName.c_str());
   ::RegCloseKey(key);
-}
-
-TEST(ColourDepth, OnlyTwoShallowDepthsAskForDeeperIcons) {
-  EXPECT_TRUE(core::ShouldOfferDeeperIcons(8, 4));
-  EXPECT_TRUE(core::ShouldOfferDeeperIcons(15, 0));
-  EXPECT_FALSE(core::ShouldOfferDeeperIcons(16, 4));
-  EXPECT_FALSE(core::ShouldOfferDeeperIcons(8, 16));
-  EXPECT_FALSE(core::ShouldOfferDeeperIcons(32, 32));
 }
 
 }  // namespace

@@ -14,7 +14,7 @@
 #include "platform/IconFile.h"
 #include "platform/IniFile.h"
 #include "platform/ResourceLibrary.h"
-#include "resource_ids.h"
+#include "platform/Utf8.h"
 #include "support/TestSupport.h"
 
 namespace {
@@ -28,10 +28,10 @@ using Make = std::function<void(const std::string& path)>;
 constexpr auto kCaseLimit = std::chrono::seconds(10);
 
 void Collect(const std::string& folder, const std::string& relative, Snapshot& into) {
-  WIN32_FIND_DATAA entry;
-  HANDLE search = ::FindFirstFileA((folder + "\\*").c_str(), &entry);
-  for (bool more = search != INVALID_HANDLE_VALUE; more; more = ::FindNextFileA(search, &entry)) {
-    const std::string name = entry.cFileName;
+  WIN32_FIND_DATAW entry;
+  HANDLE search = ::FindFirstFileW(platform::Wide(folder + "\\*").c_str(), &entry);
+  for (bool more = search != INVALID_HANDLE_VALUE; more; more = ::FindNextFileW(search, &entry)) {
+    const std::string name = platform::Utf8(entry.cFileName);
     if (name == "." || name == "..") continue;
     if (entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) {
       into[relative + name + "\\"] = "";
@@ -59,12 +59,6 @@ std::string ResourceTablePastTheEnd(std::string image) {
   const std::size_t optional = word(0x3C) + 24;
   word(optional + 112 + 2 * 8) = word(optional + 56) + 0x10000;
   return image;
-}
-
-std::string Utf16WithMark(const std::wstring& text) {
-  std::string bytes = "\xFF\xFE";
-  for (wchar_t unit : text) bytes += {static_cast<char>(unit & 0xFF), static_cast<char>(unit >> 8)};
-  return bytes;
 }
 
 Make Bytes(std::string bytes) {
@@ -100,9 +94,9 @@ HostileCase DesktopIni(std::string name, std::string bytes, std::string expected
     testing_support::RecordingNotifier shell;
     read.iconIndex = 7;
     core::ApplyFolderIcon(folder, read, false, platform::ResourceLibrary(), shell);
-    outcome += platform::ReadIniValue(".ShellClassInfo", "IconIndex", file) == "7" ? "; written"
-                                                                                   : "; refused";
-    return outcome + (ReadWholeFile(file).rfind("\xFF\xFE", 0) == 0 ? "; still UTF-16" : "");
+    return outcome + (platform::ReadIniValue(".ShellClassInfo", "IconIndex", file) == "7"
+                          ? "; written"
+                          : "; refused");
   };
   return {name, core::kSettingsFileName, Bytes(bytes), routine, expected, true};
 }
@@ -118,17 +112,6 @@ HostileCase RecentFile(std::string name, Make make, std::string expected, bool w
     return "entry 2 " + second + (recent.List()[0] == "c:\\new.ico" ? "; saved" : "; lost");
   };
   return {name, core::kRecentFileName, make, routine, expected, writable};
-}
-
-HostileCase PictureLibrary(std::string name, std::string bytes) {
-  auto routine = [](const std::string&, const std::string& file) {
-    platform::ResourceLibrary library;
-    library.Open(file);
-    const bool nothing = !library.Bitmap(IDB_SKIN) && library.Data(IDR_FONT).empty();
-    return std::string(library.Name().empty() ? "not loaded" : "loaded") +
-           (nothing ? "; nothing found" : "; found something");
-  };
-  return {name, "Resource.DLL", Bytes(bytes), routine, "not loaded; nothing found", false};
 }
 
 HostileCase IconSource(std::string name, std::string file, Make make, int count) {
@@ -150,7 +133,6 @@ std::vector<HostileCase> Cases() {
   const std::string ini = "[.ShellClassInfo]\r\n";
   const std::string library = ReadWholeFile(TestFolder() + "ICONS120.DLL");
   const std::string icon = ReadWholeFile(TestFolder() + "icons.ico");
-  const std::string pictures = ReadWholeFile(testing_support::DistFolder() + "Resource.DLL");
   std::string many = icon;
   many[4] = many[5] = '\xFF';
   return {
@@ -166,10 +148,6 @@ std::vector<HostileCase> Cases() {
       DesktopIni("numbers that overflow or are words",
                  ini + "ConfirmFileOp=2147483648\r\nNoSharing=1x\r\nIconIndex=-2147483649\r\n",
                  "0 0 \"\" 0 \"\"; written"),
-      DesktopIni("UTF-16 with a byte-order mark, as Explorer writes it",
-                 Utf16WithMark(L"[.ShellClassInfo]\r\nIconResource=x.dll,-3\r\nIconFile=C:\\caf"
-                               L"\u00e9.ico\r\nIconIndex=4\r\nInfoTip=a\u00f1o\r\n"),
-                 "0 0 \"C:\\caf\xE9.ico\" 4 \"a\xF1o\"; written; still UTF-16"),
       {"a folder named Desktop.ini", core::kSettingsFileName, MakeFolder,
        [](const std::string& folder, const std::string&) {
          core::FolderSettings settings;
@@ -186,7 +164,6 @@ std::vector<HostileCase> Cases() {
                  Bytes("[Recent]\r\nARA02=" + std::string(300, 'F') + "\r\n"),
                  "entry 2 300 chars; saved"),
       RecentFile("a folder named ARA.INI", MakeFolder, "entry 2 \"\"; lost", false),
-      PictureLibrary("Resource.DLL cut in half", pictures.substr(0, pictures.size() / 2)),
       IconSource("icon library cut in half", "half.dll",
                  Bytes(library.substr(0, library.size() / 2)), 0),
       IconSource("resource table past the end", "past.dll", Bytes(ResourceTablePastTheEnd(library)),
@@ -194,7 +171,6 @@ std::vector<HostileCase> Cases() {
       IconSource(".ico claiming 65535 images", "many.ico", Bytes(many), 0),
       IconSource(".ico of zero bytes", "zero.ico", Bytes(""), 0),
       IconSource("a folder as icon file", "folder.ico", MakeFolder, 0),
-      IconSource("ANSI letters in the name", "caf\xE9 \xF1.ico", Bytes(icon), 1),
   };
 }
 

@@ -3,6 +3,7 @@
 #include <commctrl.h>
 
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <functional>
 #include <sstream>
@@ -12,17 +13,17 @@ namespace e2e {
 namespace {
 
 std::string FullPath(const std::string& path) {
-  char buffer[MAX_PATH * 4] = {};
-  const DWORD length = ::GetFullPathNameA(path.c_str(), sizeof buffer, buffer, nullptr);
-  return std::string(buffer, length);
+  wchar_t buffer[MAX_PATH * 4] = {};
+  const DWORD length = ::GetFullPathNameW(Wide(path).c_str(), MAX_PATH * 4, buffer, nullptr);
+  return Utf8(std::wstring(buffer, length));
 }
 
 // Calls `visit` for everything under `folder`, a folder after its contents.
 void Walk(const std::string& folder, const std::function<void(const std::string&, bool)>& visit) {
-  WIN32_FIND_DATAA entry;
-  HANDLE search = ::FindFirstFileA((folder + "\\*").c_str(), &entry);
-  for (bool more = search != INVALID_HANDLE_VALUE; more; more = ::FindNextFileA(search, &entry)) {
-    const std::string name = entry.cFileName, path = folder + "\\" + name;
+  WIN32_FIND_DATAW entry;
+  HANDLE search = ::FindFirstFileW(Wide(folder + "\\*").c_str(), &entry);
+  for (bool more = search != INVALID_HANDLE_VALUE; more; more = ::FindNextFileW(search, &entry)) {
+    const std::string name = Utf8(entry.cFileName), path = folder + "\\" + name;
     const bool isFolder = entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY;
     if (name == "." || name == "..") continue;
     if (isFolder) Walk(path, visit);
@@ -33,10 +34,10 @@ void Walk(const std::string& folder, const std::function<void(const std::string&
 
 void DeleteTree(const std::string& folder) {
   Walk(folder, [](const std::string& path, bool isFolder) {
-    ::SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
-    isFolder ? ::RemoveDirectoryA(path.c_str()) : ::DeleteFileA(path.c_str());
+    ::SetFileAttributesW(Wide(path).c_str(), FILE_ATTRIBUTE_NORMAL);
+    isFolder ? ::RemoveDirectoryW(Wide(path).c_str()) : ::DeleteFileW(Wide(path).c_str());
   });
-  ::RemoveDirectoryA(folder.c_str());
+  ::RemoveDirectoryW(Wide(folder).c_str());
 }
 
 // SendInput stays inside Wine, unseen by a window manager: while the test
@@ -78,55 +79,67 @@ void SendKey(WORD virtualKey, WORD scan, DWORD flags) {
 
 }  // namespace
 
+// The standard library's paths convert between UTF-8 and the system's UTF-16.
+std::wstring Wide(const std::string& text) {
+  return std::filesystem::path(std::u8string(text.begin(), text.end())).wstring();
+}
+
+std::string Utf8(const std::wstring& text) {
+  const std::u8string bytes = std::filesystem::path(text).u8string();
+  return {bytes.begin(), bytes.end()};
+}
+
 std::string TestFolder() {
-  char buffer[MAX_PATH * 4] = {};
-  const std::string path(buffer, ::GetModuleFileNameA(nullptr, buffer, sizeof buffer));
+  wchar_t buffer[MAX_PATH * 4] = {};
+  const std::string path = Utf8({buffer, ::GetModuleFileNameW(nullptr, buffer, MAX_PATH * 4)});
   return path.substr(0, path.find_last_of('\\') + 1);
 }
 
 std::string ReadFile(const std::string& path) {
   std::ostringstream bytes;
-  bytes << std::ifstream(path, std::ios::binary).rdbuf();
+  bytes << std::ifstream(std::filesystem::path(Wide(path)), std::ios::binary).rdbuf();
   return bytes.str();
 }
 
 void WriteFile(const std::string& path, const std::string& bytes) {
-  if (!(std::ofstream(path, std::ios::binary) << bytes)) throw std::runtime_error(path);
+  if (!(std::ofstream(std::filesystem::path(Wide(path)), std::ios::binary) << bytes))
+    throw std::runtime_error(path);
 }
 
 bool IsFile(const std::string& path) {
-  const DWORD attributes = ::GetFileAttributesA(path.c_str());
+  const DWORD attributes = ::GetFileAttributesW(Wide(path).c_str());
   return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
 }
 
 std::string IniValue(const std::string& file, const char* section, const char* key) {
-  for (std::string value(4096, '\0');; value.resize(value.size() * 2)) {
-    const DWORD length = ::GetPrivateProfileStringA(section, key, "", value.data(),
-                                                    static_cast<DWORD>(value.size()), file.c_str());
-    if (length + 1 < value.size()) return value.substr(0, length);
+  for (std::wstring value(4096, L'\0');; value.resize(value.size() * 2)) {
+    const DWORD length =
+        ::GetPrivateProfileStringW(Wide(section).c_str(), Wide(key).c_str(), L"", value.data(),
+                                   static_cast<DWORD>(value.size()), Wide(file).c_str());
+    if (length + 1 < value.size()) return Utf8(value.substr(0, length));
   }
 }
 
 std::string LibraryString(const std::string& library, int id) {
-  HMODULE module = ::LoadLibraryExA(library.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
-  char text[4096] = {};
-  const int length = module ? ::LoadStringA(module, id, text, sizeof text) : 0;
+  HMODULE module = ::LoadLibraryExW(Wide(library).c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
+  wchar_t text[4096] = {};
+  const int length = module ? ::LoadStringW(module, id, text, 4096) : 0;
   if (module) ::FreeLibrary(module);
-  return std::string(text, length);
+  return Utf8({text, static_cast<size_t>(length)});
 }
 
 std::string Text(HWND window) {
-  std::string text(::GetWindowTextLengthA(window) + 1, '\0');
-  text.resize(std::max(0, ::GetWindowTextA(window, text.data(), static_cast<int>(text.size()))));
-  return text;
+  std::wstring text(::GetWindowTextLengthW(window) + 1, L'\0');
+  text.resize(std::max(0, ::GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
+  return Utf8(text);
 }
 
 // Asked of the control itself: an edit control keeps what it holds to itself.
 std::string ControlText(HWND control) {
-  std::string text(::SendMessageA(control, WM_GETTEXTLENGTH, 0, 0) + 1, '\0');
+  std::wstring text(::SendMessageW(control, WM_GETTEXTLENGTH, 0, 0) + 1, L'\0');
   text.resize(
-      ::SendMessageA(control, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data())));
-  return text;
+      ::SendMessageW(control, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data())));
+  return Utf8(text);
 }
 
 bool CrashWindowShown() {
@@ -213,7 +226,7 @@ bool Drag(HWND window, POINT from, SIZE by) {
 }
 
 void Type(const std::string& text) {
-  for (char c : text) SendKey(0, static_cast<unsigned char>(c), KEYEVENTF_UNICODE);
+  for (wchar_t unit : Wide(text)) SendKey(0, unit, KEYEVENTF_UNICODE);
 }
 
 void PressKey(WORD virtualKey) {
@@ -233,16 +246,17 @@ HWND FocusWindow() {
 }
 
 ProgramRun::ProgramRun() {
-  char temp[MAX_PATH] = {};
-  ::GetTempPathA(MAX_PATH, temp);
+  wchar_t temp[MAX_PATH] = {};
+  ::GetTempPathW(MAX_PATH, temp);
   static unsigned serial = 0;
-  root_ = FullPath(std::string(temp) + "morvane-e2e-" + std::to_string(::GetCurrentProcessId()) +
-                   "-" + std::to_string(++serial));
+  root_ = FullPath(Utf8(temp) + "morvane-e2e-" + std::to_string(::GetCurrentProcessId()) + "-" +
+                   std::to_string(++serial));
   for (const char* folder : {"", "\\program", "\\target"})
-    ::CreateDirectoryA((root_ + folder).c_str(), nullptr);
+    ::CreateDirectoryW(Wide(root_ + folder).c_str(), nullptr);
   const std::string dist = FullPath(TestFolder() + "..\\dist");
   Walk(dist, [&](const std::string& path, bool isFolder) {
-    if (!isFolder) ::CopyFileA(path.c_str(), File(path.substr(dist.size() + 1)).c_str(), FALSE);
+    if (!isFolder)
+      ::CopyFileW(Wide(path).c_str(), Wide(File(path.substr(dist.size() + 1))).c_str(), FALSE);
   });
   if (!IsFile(File("Morvane.exe"))) throw std::runtime_error("no shipping folder at " + dist);
 }
@@ -287,18 +301,18 @@ std::string ProgramRun::Changes(const std::vector<std::string>& allowed) const {
 
 void ProgramRun::Start(const std::string& arguments) {
   if (process_.hProcess) ::CloseHandle(process_.hThread), ::CloseHandle(process_.hProcess);
-  std::string line = "\"" + File("Morvane.exe") + "\"";
-  if (!arguments.empty()) line += " " + arguments;
-  STARTUPINFOA startup{};
+  const std::string line = "\"" + File("Morvane.exe") + "\"" + (arguments.empty() ? "" : " ");
+  std::wstring wideLine = Wide(line + arguments);
+  STARTUPINFOW startup{};
   startup.cb = sizeof startup;
   main = nullptr;
-  if (!::CreateProcessA(File("Morvane.exe").c_str(), line.data(), nullptr, nullptr, FALSE, 0,
-                        nullptr, nullptr, &startup, &process_))
-    throw std::runtime_error("cannot start " + line);
+  if (!::CreateProcessW(Wide(File("Morvane.exe")).c_str(), wideLine.data(), nullptr, nullptr, FALSE,
+                        0, nullptr, nullptr, &startup, &process_))
+    throw std::runtime_error("cannot start " + line + arguments);
 }
 
-bool ProgramRun::Open(int icons) {
-  Start(Target());
+bool ProgramRun::Open(int icons, const std::string& folder) {
+  Start(folder.empty() ? Target() : folder);
   return WaitForMain() && WaitUntil([&] { return IconCount() >= icons; });
 }
 
@@ -349,6 +363,30 @@ bool ProgramRun::Close() {
 
 int ProgramRun::IconCount() const {
   return static_cast<int>(::SendMessageA(Element(ids::kIconList), LVM_GETITEMCOUNT, 0, 0));
+}
+
+POINT IconAt(int position) {
+  constexpr int kIconSpacing = 43;
+  return {kIconSpacing * (position - 1) + kIconSpacing / 2, kIconSpacing / 2};
+}
+
+bool Pick(const ProgramRun& run, int position) {
+  Click(run.Element(ids::kIconList), IconAt(position));
+  return WaitUntil([&] { return ::IsWindowVisible(run.Element(ids::kApply)); });
+}
+
+HWND ClickForBox(const ProgramRun& run, int element, int times) {
+  Click(run.Element(element), Centre(run.Element(element)), false, times);
+  return run.WaitForDialog();
+}
+
+bool ChooseFirstRecentFile(const ProgramRun& run) {
+  HWND box = run.Element(ids::kRecentFiles);
+  Click(box, {20, 10});
+  if (!WaitUntil([&] { return FocusWindow() == box; })) return false;
+  PressKey(VK_ESCAPE);
+  PressKey(VK_DOWN);
+  return true;
 }
 
 }  // namespace e2e

@@ -1,6 +1,7 @@
 // The real Morvane.exe run in its own process from a scratch copy of the
 // shipping folder, seen and driven from outside as a user would. Win32 only,
-// so that it keeps building whatever the product's sources become.
+// so that it keeps building whatever the product's sources become. Text is
+// UTF-8, as in the program; the system is asked through its wide calls.
 #pragma once
 
 #include <windows.h>
@@ -22,6 +23,8 @@ inline constexpr int kRecentFiles = 1105, kIconList = 1106, kBrowse = 1107, kApp
 inline constexpr int kStatus = 1109, kUpdate = 1202, kWebPage = 1203, kHelp = 1204, kOk = 1205;
 }  // namespace ids
 
+std::wstring Wide(const std::string& text);
+std::string Utf8(const std::wstring& text);
 std::string TestFolder();  // with "\"
 std::string ReadFile(const std::string& path);
 void WriteFile(const std::string& path, const std::string& bytes);
@@ -80,9 +83,9 @@ class ProgramRun {
   void Remember() { before_ = Files(); }
 
   void Start(const std::string& arguments);  // after the program's quoted name
-  // Starts it on the target folder; true once the main window is up, start-up
-  // over and `icons` icons listed.
-  bool Open(int icons = 1);
+  // Starts it on the target folder, or on `folder`; true once the main window
+  // is up, start-up over and `icons` icons listed.
+  bool Open(int icons = 1, const std::string& folder = "");
   HWND WaitForMain();
   HWND WaitForWindow(const std::string& className, const std::string& title = "") const;
   HWND WaitForDialog() const { return WaitForWindow("#32770"); }
@@ -106,5 +109,15 @@ class ProgramRun {
   std::vector<std::pair<std::string, std::string>> before_;
   PROCESS_INFORMATION process_{};
 };
+
+// The centre of the icon at `position` (from 1) in the list's first row.
+POINT IconAt(int position);
+// Clicks an icon and waits for the apply button, the sign that the click was
+// handled: input sent on meanwhile could be taken by the list for a drag.
+bool Pick(const ProgramRun& run, int position);
+// Clicks an element and returns the message box or dialog it brings up.
+HWND ClickForBox(const ProgramRun& run, int element, int times = 1);
+// Chooses the first line of the recent files box with the keyboard.
+bool ChooseFirstRecentFile(const ProgramRun& run);
 
 }  // namespace e2e

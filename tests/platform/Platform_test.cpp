@@ -7,6 +7,7 @@
 #include "platform/IniFile.h"
 #include "platform/ResourceLibrary.h"
 #include "platform/TextRules.h"
+#include "platform/Utf8.h"
 #include "support/TestSupport.h"
 #include "test_resource_ids.h"
 
@@ -114,20 +115,19 @@ TEST(IconFile, CountsAndExtractsWhatTheFileHolds) {
 }
 
 TEST(CommonDialogText, ConversionsForTheDialogRecords) {
-  EXPECT_EQ(platform::ConvertFilter("Icons|*.ico|All|*.*"),
-            std::string("Icons\0*.ico\0All\0*.*\0", 20));
-  EXPECT_EQ(platform::CutAtNul(std::string("ab\0cd", 5)), "ab");
-  EXPECT_EQ(platform::FaceNameToText("Tahoma\0junk", 11), "Tahoma");
-  EXPECT_EQ(platform::FaceNameToText("ABCD", 4), "ABCD");
-  EXPECT_EQ(platform::FileNameBuffer("abc", 6), std::string("abc  \0", 6));
-  EXPECT_EQ(platform::FileNameBuffer("abcdefgh", 4), std::string("abc\0", 4));
+  EXPECT_EQ(platform::ConvertFilter(L"Icons|*.ico|All|*.*"),
+            std::wstring(L"Icons\0*.ico\0All\0*.*\0", 20));
+  EXPECT_EQ(platform::CutAtNul(std::wstring(L"ab\0cd", 5)), L"ab");
+  EXPECT_EQ(platform::FaceNameToText(L"\u6977\u4f53\0junk", 7), "\u6977\u4f53");
+  EXPECT_EQ(platform::FaceNameToText(L"ABCD", 4), "ABCD");
+  EXPECT_EQ(platform::FileNameBuffer(L"abc", 6), std::wstring(L"abc  \0", 6));
+  EXPECT_EQ(platform::FileNameBuffer(L"abcdefgh", 4), std::wstring(L"abc\0", 4));
   EXPECT_EQ(platform::TenthsToPoints(105), 10);
   EXPECT_EQ(platform::TenthsToPoints(115), 12);
 }
 
 TEST(TextRules, HowPeoplesTextIsRead) {
   EXPECT_EQ(platform::TrimBlanks("  a b\t "), "a b\t");
-  EXPECT_EQ(platform::LowerCase("C:\\CAF\xC9.ICO"), "c:\\caf\xE9.ico");
   EXPECT_EQ(platform::TextBeforeNul(std::string("ab\0c", 4)), "ab");
   EXPECT_EQ(platform::TextBeforeNul("abc"), "");
   struct Row {
@@ -137,6 +137,26 @@ TEST(TextRules, HowPeoplesTextIsRead) {
               {"2147483648", {}}, {"1x", {}}, {"", {}},  {"0x10", {}},
               {"1.5", {}}};
   for (const Row& row : rows) EXPECT_EQ(platform::ToWholeNumber(row.text), row.number) << row.text;
+}
+
+TEST(TextRules, LowerCaseFoldsEveryScriptAndAnsiTextAsTheAnsiCallsDid) {
+  for (int code = 0x80; code <= 0xFF; ++code) {
+    char ansi[] = {static_cast<char>(code), 0};
+    wchar_t wide[2] = {};
+    ::MultiByteToWideChar(CP_ACP, 0, ansi, 1, wide, 1);
+    const std::wstring lower = platform::Wide(platform::LowerCase(platform::Utf8(wide)));
+    ::CharLowerBuffA(ansi, 1);
+    char back[4] = {};
+    ::WideCharToMultiByte(CP_ACP, 0, lower.c_str(), 1, back, sizeof back, nullptr, nullptr);
+    EXPECT_EQ(back[0], ansi[0]) << code;
+  }
+}
+
+// Windows allows a surrogate without its partner in a file name.
+TEST(Utf8, EveryNameTheSystemHandsOutComesBack) {
+  for (const std::wstring name :
+       {L"caf\u00e9 \u5199\u771f \U0001F600", L"lone \xD800", L"\xDC00\xD800"})
+    EXPECT_EQ(platform::Wide(platform::Utf8(name)), name);
 }
 
 }  // namespace

@@ -2,15 +2,22 @@
 
 #include <shlobj.h>
 
+#include <filesystem>
 #include <fstream>
 #include <sstream>
 #include <stdexcept>
 
+#include "platform/SystemPath.h"
+#include "platform/Utf8.h"
+
 namespace testing_support {
 
+using platform::FilePath;
+using platform::Utf8;
+
 std::string TestFolder() {
-  char buffer[MAX_PATH * 4] = {};
-  const std::string path(buffer, ::GetModuleFileNameA(nullptr, buffer, sizeof buffer));
+  wchar_t buffer[MAX_PATH * 4] = {};
+  const std::string path = Utf8({buffer, ::GetModuleFileNameW(nullptr, buffer, MAX_PATH * 4)});
   return path.substr(0, path.find_last_of('\\') + 1);
 }
 
@@ -19,37 +26,37 @@ std::string DistFolder() {
 }
 
 std::string ReadWholeFile(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
+  std::ifstream in(std::filesystem::path(FilePath(path)), std::ios::binary);
   std::ostringstream bytes;
   bytes << in.rdbuf();
   return bytes.str();
 }
 
 void WriteWholeFile(const std::string& path, const std::string& bytes) {
-  std::ofstream out(path, std::ios::binary | std::ios::trunc);
+  std::ofstream out(std::filesystem::path(FilePath(path)), std::ios::binary | std::ios::trunc);
   out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   if (!out) throw std::runtime_error("cannot write " + path);
 }
 
 void DeleteTree(const std::string& path) {
-  const DWORD attributes = ::GetFileAttributesA(path.c_str());
+  const DWORD attributes = ::GetFileAttributesW(FilePath(path).c_str());
   if (attributes == INVALID_FILE_ATTRIBUTES) return;
   // Hidden, system and read-only entries refuse deletion otherwise.
-  ::SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
+  ::SetFileAttributesW(FilePath(path).c_str(), FILE_ATTRIBUTE_NORMAL);
   if (!(attributes & FILE_ATTRIBUTE_DIRECTORY)) {
-    ::DeleteFileA(path.c_str());
+    ::DeleteFileW(FilePath(path).c_str());
     return;
   }
-  WIN32_FIND_DATAA entry;
-  HANDLE search = ::FindFirstFileA((path + "\\*").c_str(), &entry);
+  WIN32_FIND_DATAW entry;
+  HANDLE search = ::FindFirstFileW(FilePath(path + "\\*").c_str(), &entry);
   if (search != INVALID_HANDLE_VALUE) {
     do {
-      const std::string name = entry.cFileName;
+      const std::string name = Utf8(entry.cFileName);
       if (name != "." && name != "..") DeleteTree(path + "\\" + name);
-    } while (::FindNextFileA(search, &entry));
+    } while (::FindNextFileW(search, &entry));
     ::FindClose(search);
   }
-  ::RemoveDirectoryA(path.c_str());
+  ::RemoveDirectoryW(FilePath(path).c_str());
 }
 
 ScratchFolder::ScratchFolder() {
@@ -90,7 +97,7 @@ COLORREF DibSurface::Pixel(int x, int y) const {
 std::vector<COLORREF> ReadPixels(HBITMAP bitmap, int& width) {
   BITMAP shape{};
   width = 0;
-  if (!::GetObjectA(bitmap, sizeof shape, &shape)) return {};
+  if (!::GetObjectW(bitmap, sizeof shape, &shape)) return {};
   DibSurface copy(shape.bmWidth, shape.bmHeight, 0);
   HDC source = ::CreateCompatibleDC(nullptr);
   HGDIOBJ old = ::SelectObject(source, bitmap);
@@ -105,14 +112,14 @@ std::vector<COLORREF> ReadPixels(HBITMAP bitmap, int& width) {
   return pixels;
 }
 
-void RecordingNotifier::Notify(LONG event, UINT flags, const void* item1, const void*) {
-  std::string item;
-  if ((flags & SHCNF_TYPE) == SHCNF_DWORD) {
-    item = std::to_string(reinterpret_cast<INT_PTR>(item1));
-  } else if (item1) {
-    item = static_cast<const char*>(item1);
-  }
-  calls.push_back({event, item});
+void RecordingNotifier::NotifyPath(LONG event, const std::string& path) {
+  calls.push_back({event, path});
+}
+void RecordingNotifier::NotifyNumber(LONG event, int number) {
+  calls.push_back({event, std::to_string(number)});
+}
+void RecordingNotifier::Notify(LONG event) {
+  calls.push_back({event, ""});
 }
 
 }  // namespace testing_support

@@ -1,6 +1,6 @@
 // What the unit tests share: where the built files are, scratch folders that
 // clean up after themselves, pixels read through a 32-bit DIB, and a shell
-// notifier that records instead.
+// notifier that records instead. Paths are UTF-8, as in the program.
 #pragma once
 #include <windows.h>
 #include <cstdint>
@@ -61,7 +61,9 @@ struct Notification {
 
 class RecordingNotifier : public platform::ShellNotifier {
  public:
-  void Notify(LONG event, UINT flags, const void* item1, const void* item2) override;
+  void NotifyPath(LONG event, const std::string& path) override;
+  void NotifyNumber(LONG event, int number) override;
+  void Notify(LONG event) override;
   std::vector<Notification> calls;
 };
 
