@@ -57,6 +57,16 @@ void SendMouse(POINT screen, DWORD buttons = 0) {
   ::SendInput(1, &input, sizeof input);
 }
 
+void SendKey(WORD virtualKey, WORD scan, DWORD flags) {
+  INPUT key[2] = {};
+  for (INPUT& k : key) k.type = INPUT_KEYBOARD, k.ki.wVk = virtualKey, k.ki.wScan = scan;
+  key[0].ki.dwFlags = flags;
+  key[1].ki.dwFlags = flags | KEYEVENTF_KEYUP;
+  ::SendInput(2, key, sizeof(INPUT));
+}
+
+}  // namespace
+
 std::string ClassOf(HWND window) {
   char buffer[256] = {};
   return std::string(buffer, std::max(0, ::GetClassNameA(window, buffer, sizeof buffer)));
@@ -68,16 +78,6 @@ std::vector<HWND> TopWindows() {  // the visible ones
     if (::IsWindowVisible(w)) found.push_back(w);
   return found;
 }
-
-void SendKey(WORD virtualKey, WORD scan, DWORD flags) {
-  INPUT key[2] = {};
-  for (INPUT& k : key) k.type = INPUT_KEYBOARD, k.ki.wVk = virtualKey, k.ki.wScan = scan;
-  key[0].ki.dwFlags = flags;
-  key[1].ki.dwFlags = flags | KEYEVENTF_KEYUP;
-  ::SendInput(2, key, sizeof(INPUT));
-}
-
-}  // namespace
 
 // The standard library's paths convert between UTF-8 and the system's UTF-16.
 std::wstring Wide(const std::string& text) {

@@ -33,6 +33,8 @@ std::string IniValue(const std::string& file, const char* section, const char* k
 std::string LibraryString(const std::string& library, int id);
 std::string Text(HWND window);
 std::string ControlText(HWND control);  // what a text box holds, through the box
+std::string ClassOf(HWND window);
+std::vector<HWND> TopWindows();  // visible ones
 // Closes Wine's "Program Error" window, shown when a process dies of an exception.
 bool CrashWindowShown();
 
