@@ -334,7 +334,9 @@ HWND ProgramRun::WaitForWindow(const std::string& className, const std::string& 
   HWND found = nullptr;
   WaitUntil([&] {
     for (HWND window : Windows())
-      if (ClassOf(window) == className && (title.empty() || Text(window) == title)) found = window;
+      if (ClassOf(window) == className && (title.empty() || Text(window) == title) &&
+          ::IsWindowVisible(window))  // shown: placed, and ready for the pointer
+        found = window;
     return found != nullptr;
   });
   return found;
