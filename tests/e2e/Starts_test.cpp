@@ -139,10 +139,8 @@ auto InTarget(const std::string& bytes, DWORD attributes = FILE_ATTRIBUTE_NORMAL
 
 // The user picks the fifth icon, applies and answers Yes.
 void ApplyFifthIcon(ProgramRun& run) {
-  constexpr int kSpacing = 43;
-  Click(run.Element(ids::kIconList), {kSpacing * 4 + kSpacing / 2, kSpacing / 2});
+  ASSERT_TRUE(Pick(run, 5));
   HWND apply = run.Element(ids::kApply);
-  ASSERT_TRUE(WaitUntil([&] { return ::IsWindowVisible(apply); }));
   Click(apply, Centre(apply));
   HWND question = run.WaitForDialog();
   ASSERT_NE(question, nullptr);
