@@ -32,13 +32,16 @@ if [ "$(locale charmap 2>/dev/null)" != UTF-8 ]; then
   fi
 fi
 
-mkdir -p "$build_dir"
-log="$build_dir/build.log"
-echo "Building Morvane in $build_dir (the first build takes several minutes)..." >&2
-if ! build_morvane "${dist_targets[@]}" >"$log" 2>&1; then
-  tail -n 20 "$log" >&2
-  echo "$0: the build failed; the whole log is in $log" >&2
-  exit 1
+# A copy installed by install-linux.sh has no sources: it runs what it holds.
+if [ -f "$repo_root/CMakeLists.txt" ]; then
+  mkdir -p "$build_dir"
+  log="$build_dir/build.log"
+  echo "Building Morvane in $build_dir (the first build takes several minutes)..." >&2
+  if ! build_morvane "${dist_targets[@]}" >"$log" 2>&1; then
+    tail -n 20 "$log" >&2
+    echo "$0: the build failed; the whole log is in $log" >&2
+    exit 1
+  fi
 fi
 prepare_wine_prefix "${MORVANE_WINEPREFIX:-$HOME/.local/share/morvane/wineprefix}"
 

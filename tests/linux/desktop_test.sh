@@ -1,0 +1,89 @@
+#!/usr/bin/env bash
+# Installs Morvane for a private user under a private D-Bus session with the
+# GVfs metadata service; checks the desktop entries and folder handlers; lets
+# the launcher mirror Desktop.ini files as Morvane writes them (ANSI and
+# UTF-16, icon files on Z: and C:, a position and a resource number, then
+# removal); hands a folder through the entry's %f; uninstalls.
+# Runs in the prefix that scripts/test.sh prepared. Usage: desktop_test.sh BUILD_DIR
+set -euo pipefail
+if [ -z "${MORVANE_TEST_HOME:-}" ]; then
+  scratch=$(mktemp -d)
+  trap 'rm -rf "$scratch"' EXIT
+  mkdir -m 700 "$scratch/run"
+  # A desktop's file manager, the default for folders.
+  mkdir -p "$scratch/system/applications"
+  printf '[Desktop Entry]\nType=Application\nName=Files\nExec=true %%U\nMimeType=inode/directory;\n' \
+    >"$scratch/system/applications/files.desktop"
+  update-desktop-database "$scratch/system/applications"
+  env -u XDG_DATA_HOME -u XDG_CONFIG_HOME -u XDG_CACHE_HOME HOME="$scratch/home" \
+    XDG_RUNTIME_DIR="$scratch/run" XDG_DATA_DIRS="$scratch/system:/usr/share" MORVANE_TEST_HOME="$scratch" \
+    dbus-run-session -- bash "$0" "$@"
+  exit
+fi
+scratch=$MORVANE_TEST_HOME
+build_dir=$1
+source_dir="$(dirname "$0")/../.."
+apps=$HOME/.local/share/applications
+fail() { echo "FAILED: $*"; exit 1; }
+listed() { gio mime inode/directory | grep -q 'morvane\.desktop'; }
+
+MORVANE_BUILD_DIR=$build_dir bash "$source_dir/scripts/install-linux.sh" >/dev/null
+desktop-file-validate "$apps/morvane.desktop" || fail "the application entry is not valid"
+[ "$(xdg-mime query filetype "$scratch")" = inode/directory ] || fail "folders are not inode/directory"
+listed || fail "gio lists no Morvane for folders: $(gio mime inode/directory)"
+[ "$(xdg-mime query default inode/directory)" = files.desktop ] || fail "Morvane opens folders by default"
+
+# Morvane's window is replaced by a note of the folder it was handed.
+printf '#!/bin/sh\nprintf %%s "$1" >"$HOME/handed"\n' >"$HOME/.local/share/morvane/scripts/run.sh"
+export MORVANE_WINEPREFIX=$WINEPREFIX
+windows() { printf 'Z:%s' "${1//\//\\}"; }
+# desktop_ini FOLDER ENCODING ICON_FILE INDEX TIP: a Desktop.ini as Morvane writes it.
+desktop_ini() {
+  mkdir -p "$1"
+  printf '[.ShellClassInfo]\r\nConfirmFileOp=1\r\nNoSharing=0\r\nIconFile=%s\r\nIconIndex=%s\r\nInfoTip=%s\r\n[Morvane]\r\nMark=-1\r\n' \
+    "$3" "$4" "$5" | iconv -t "$2" >"$1/Desktop.ini"
+}
+shown_icon() { gio info -a metadata::custom-icon "$1" | sed -n 's|^ *metadata::custom-icon: file://||p'; }
+# same_pixels PNG ICO: the PNG is the icon file's 48 pixel image, as icotool reads it.
+same_pixels() {
+  rm -rf "$scratch/expected" && mkdir "$scratch/expected" && icotool -x -w 48 -o "$scratch/expected" "$2"
+  /usr/bin/python3 -c 'import sys; from PIL import Image
+a, b = ([p if p[3] else 0 for p in Image.open(f).convert("RGBA").getdata()] for f in sys.argv[1:])
+sys.exit(a != b)' "$1" "$scratch"/expected/*.png
+}
+
+icons=$build_dir/resources/folder_icons
+on_c="$WINEPREFIX/drive_c/Morvane test ☕"
+mkdir -p "$on_c" && cp "$build_dir/tests/icons.ico" "$on_c/"
+desktop_ini "$scratch/ansi" CP1252 "$(windows "$build_dir/dist/iconos.dll")" 3 "Fotos de año"
+printf '[Desktop Entry]\nX-Foreign=kept\n[Other]\nIcon=kept\n' >"$scratch/ansi/.directory"
+desktop_ini "$scratch/unicode 写真" UTF-16 'C:\Morvane test ☕\icons.ico' 0 "写真 ☕"
+desktop_ini "$scratch/by number" CP1252 "$(windows "$build_dir/dist/iconos.dll")" -3 ""
+for row in "ansi|$icons/04_red.ico|Fotos de año" "unicode 写真|$on_c/icons.ico|写真 ☕" \
+  "by number|$icons/03_green.ico|"; do
+  IFS='|' read -r name ico tip <<<"$row"
+  "$HOME/.local/bin/morvane" "$scratch/$name" || fail "the launcher failed on $name"
+  [ "$(cat "$HOME/handed")" = "$scratch/$name" ] || fail "the launcher handed on $(cat "$HOME/handed")"
+  png=$(shown_icon "$scratch/$name")
+  [ -n "$png" ] && same_pixels "$png" "$ico" || fail "$name shows ${png:-no icon}, not $ico"
+  grep -qx "Icon=$png" "$scratch/$name/.directory" || fail "$name/.directory: no Icon=$png"
+  [ "$(sed -n 's/^Comment=//p' "$scratch/$name/.directory")" = "$tip" ] || fail "$name: Comment"
+done
+grep -qx 'X-Foreign=kept' "$scratch/ansi/.directory" || fail "a foreign key went"
+
+rm "$scratch/ansi/Desktop.ini"
+"$HOME/.local/bin/morvane" "$scratch/ansi"
+[ -z "$(shown_icon "$scratch/ansi")" ] || fail "the icon stayed after removal"
+[ "$(grep -c -e '^Icon=/' -e '^Comment=' -e 'kept' "$scratch/ansi/.directory")" = 2 ] ||
+  fail "after removal .directory holds: $(cat "$scratch/ansi/.directory")"
+
+folder="$scratch/Fotos  de año ☕ & 'co'"
+mkdir "$folder" && rm "$HOME/handed"
+gio launch "$apps/morvane.desktop" "$folder"
+for _ in $(seq 120); do [ -s "$HOME/handed" ] && break; sleep 0.25; done
+[ "$(cat "$HOME/handed")" = "$folder" ] || fail "%f handed on: $(cat "$HOME/handed")"
+
+bash "$source_dir/scripts/uninstall-linux.sh" >/dev/null
+! listed || fail "Morvane is still listed for folders"
+[ ! -e "$HOME/.local/bin/morvane" ] || fail "the launcher stayed"
+echo "passed"
