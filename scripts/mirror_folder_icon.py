@@ -15,7 +15,6 @@ import hashlib
 import io
 import os
 import re
-import shlex
 import subprocess
 import sys
 import tempfile
@@ -97,20 +96,19 @@ def icon_group(path, index):
         raise NoIcon(f"{path} is neither an icon file nor a program or library")
     listing = subprocess.run(["wrestool", "-l", "-t", ICON_GROUP_TYPE, path], capture_output=True,
                              text=True, stdin=subprocess.DEVNULL).stdout
-    groups = []
-    for line in listing.splitlines():
-        options = dict(word[2:].split("=", 1) for word in shlex.split(line.split("[")[0]))
-        groups.append(options)
+    # One line a group: --type=14 --name=4 --language=1033 [...], a name
+    # that is text in quotes.
+    groups = re.findall(r"^--type=\S+ --name=('[^']*'|\d+) --language=(\d+)", listing, re.M)
     if index >= 0:
         chosen = groups[index:index + 1]
     else:
-        chosen = [g for g in groups if g.get("name") == str(-index)][:1]
+        chosen = [g for g in groups if g[0] == str(-index)][:1]
     if not chosen:
         raise NoIcon(f"{path} has no icon {index} ({len(groups)} icons)")
-    name = chosen[0]["name"]
-    name = "-" + name if name.isdigit() else "+" + name
+    name, language = chosen[0]
+    name = "+" + name.strip("'") if name.startswith("'") else "-" + name
     extracted = subprocess.run(["wrestool", "-x", "-t", ICON_GROUP_TYPE, "-n", name, "-L",
-                                chosen[0].get("language", ""), path], capture_output=True,
+                                language, path], capture_output=True,
                                stdin=subprocess.DEVNULL).stdout
     if extracted[:4] != b"\0\0\1\0":
         raise NoIcon(f"icon {index} of {path} cannot be read")
@@ -141,8 +139,8 @@ def icon_pngs(group, store):
                 image.save(f, "PNG")
             os.chmod(temporary, 0o644)
             os.replace(temporary, target)
-    except (OSError, SyntaxError, ValueError, IndexError) as error:
-        raise NoIcon(f"the icon's images cannot be read ({error})") from None
+    except (OSError, SyntaxError, ValueError, IndexError):
+        raise NoIcon("the icon's images cannot be read") from None
     shown = max([s for s in SIZES if s <= largest] or [min(SIZES)])
     return os.path.join(store, f"{digest}-{shown}.png")
 
@@ -220,10 +218,9 @@ def mirror(folder, store):
     if not source:
         source, index = info.get("iconfile", ""), info.get("iconindex", "0")
     if source:
-        try:
-            number = int(index.strip() or "0")
-        except ValueError:
-            number = 0
+        # As Windows reads a number: its leading digits, else 0.
+        digits = re.match(r"\s*([+-]?[0-9]+)", index)
+        number = int(digits.group(1)) if digits else 0
         try:
             png = icon_pngs(icon_group(linux_path(source, folder), number), store)
         except NoIcon as reason:
