@@ -150,7 +150,8 @@ def is_ours(value, store):
 
 
 def mirror_gio(folder, png, store):
-    """Sets or clears metadata::custom-icon; needs the GVfs metadata service."""
+    """Sets or clears metadata::custom-icon; needs the GVfs metadata service.
+    True when it changed the folder's metadata."""
     def gio(*words):
         return subprocess.run(["gio", *words], capture_output=True, text=True,
                               stdin=subprocess.DEVNULL)
@@ -161,14 +162,15 @@ def mirror_gio(folder, png, store):
             info = gio("info", "-a", GIO_KEY, folder).stdout
             current = re.search(r"^\s*" + GIO_KEY + r": file://(.*)$", info, re.M)
             if not current or not is_ours(unquote(current.group(1)), store):
-                return
+                return False
             answer = gio("set", "-t", "unset", folder, GIO_KEY)
     except FileNotFoundError:
         print("morvane: gio is missing (package libglib2.0-bin); GNOME Files and its kin "
               "will not show the icon", file=sys.stderr)
-        return
+        return False
     if answer.returncode != 0:
         print(f"morvane: gio could not mark the folder: {answer.stderr.strip()}", file=sys.stderr)
+    return answer.returncode == 0
 
 
 
@@ -180,7 +182,8 @@ def desktop_value(text):
 
 def mirror_directory_file(folder, png, tip, store):
     """Sets or clears Icon and Comment in the [Desktop Entry] group of the
-    folder's .directory; every other line stays as it was."""
+    folder's .directory; every other line stays as it was. True when it
+    wrote the file."""
     path = os.path.join(folder, ".directory")
     try:
         with open(path, encoding="utf-8", errors="surrogateescape") as f:
@@ -190,7 +193,7 @@ def mirror_directory_file(folder, png, tip, store):
     start = next((i for i, l in enumerate(lines) if l.strip() == ENTRY_GROUP), None)
     if start is None:
         if not png:
-            return
+            return False
         lines += [ENTRY_GROUP]
         start = len(lines) - 1
     end = next((i for i in range(start + 1, len(lines)) if lines[i].lstrip().startswith("[")),
@@ -198,16 +201,17 @@ def mirror_directory_file(folder, png, tip, store):
     group = lines[start + 1:end]
     current = {l.split("=", 1)[0].strip(): l.split("=", 1)[1].strip() for l in group if "=" in l}
     if not png and not is_ours(current.get("Icon", ""), store):
-        return
+        return False
     wanted = {"Icon": png, "Comment": desktop_value(tip) if png and tip else None}
     group = [l for l in group if l.split("=", 1)[0].strip() not in wanted]
     group[0:0] = [f"{key}={value}" for key, value in wanted.items() if value]
     lines[start + 1:end] = group
     if not any(l.strip() and l.strip() != ENTRY_GROUP for l in lines):
         os.remove(path)
-        return
+        return True
     with open(path, "w", encoding="utf-8", errors="surrogateescape") as f:
         f.write("\n".join(lines) + "\n")
+    return True
 
 
 def mirror(folder, store):
@@ -225,11 +229,15 @@ def mirror(folder, store):
             png = icon_pngs(icon_group(linux_path(source, folder), number), store)
         except NoIcon as reason:
             print(f"morvane: the folder's icon is not shown on Linux: {reason}", file=sys.stderr)
-    mirror_gio(folder, png, store)
+    changed = mirror_gio(folder, png, store)
     try:
-        mirror_directory_file(folder, png, info.get("infotip", ""), store)
+        changed |= mirror_directory_file(folder, png, info.get("infotip", ""), store)
+        # A file manager showing the folder reads its icon again when the
+        # folder itself changes; a new metadata value alone it does not see.
+        if changed:
+            os.utime(folder)
     except OSError as error:
-        print(f"morvane: cannot write {folder}/.directory: {error.strerror}", file=sys.stderr)
+        print(f"morvane: cannot write in {folder}: {error.strerror}", file=sys.stderr)
 
 
 def main(args):
