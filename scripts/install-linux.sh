@@ -17,6 +17,8 @@ need wine wine
 need wrestool icoutils
 need gio libglib2.0-bin
 need xdpyinfo x11-utils
+# GIO lists a user's handlers of a type from the cache this tool writes.
+need update-desktop-database desktop-file-utils
 /usr/bin/python3 -c 'import PIL' 2>/dev/null || missing+=(python3-pil)
 if [ ${#missing[@]} -gt 0 ]; then
   echo "$0: please install first (as root): apt-get install ${missing[*]}" >&2
@@ -41,15 +43,20 @@ before=$(folder_default)
 
 mkdir -p "$home/dist" "$home/scripts" "$home/icons" "${launcher%/*}" \
   "$data/applications" "$data/kio/servicemenus"
-# The recent list and an edited Config.ini stay from an earlier install.
+# The recent list and an edited Config.ini stay from an earlier install; a
+# recent list or font file that runs from the build folder left is not shipped.
 for file in "$build_dir"/dist/*; do
-  [[ $file == */Config.ini && -f $home/dist/Config.ini ]] || cp -f "$file" "$home/dist/"
+  case ${file##*/} in
+    ARA.INI | Morvane.ttf) ;;
+    Config.ini) cp -n "$file" "$home/dist/" ;;
+    *) cp -f "$file" "$home/dist/" ;;
+  esac
 done
 cp -f "$repo_root"/scripts/{run.sh,common.sh,make_bold_tahoma.py,mirror_folder_icon.py} \
   "$repo_root/scripts/uninstall-linux.sh" "$home/scripts/"
 install -m 755 "$repo_root/scripts/morvane-launcher.sh" "$launcher"
 icon=$(/usr/bin/python3 "$home/scripts/mirror_folder_icon.py" --png "$home/dist/Morvane.exe" 0 \
-  "$home/icons")
+  "$home/icons") || icon=folder
 
 cat >"$data/applications/morvane.desktop" <<ENTRY
 [Desktop Entry]
@@ -81,9 +88,7 @@ Exec="$launcher" %f
 ENTRY
 chmod 755 "$service_menu"
 
-if command -v update-desktop-database >/dev/null 2>&1; then
-  update-desktop-database "$data/applications" || true
-fi
+update-desktop-database "$data/applications"
 # Where no default for folders is chosen, the newest handler, Morvane, would
 # become it: the file manager that opened folders before is chosen instead.
 if [ -n "$before" ] && [ "$before" != morvane.desktop ] && [ "$(folder_default)" = morvane.desktop ]; then
