@@ -10,7 +10,7 @@ packages=(
   xvfb xauth x11-utils xdotool openbox
   python3-fonttools python3-pil fonts-dejavu-core fonts-droid-fallback
   imagemagick icoutils attr nsis
-  libglib2.0-bin gvfs dbus-daemon desktop-file-utils xdg-utils file
+  libglib2.0-bin gvfs dbus-daemon desktop-file-utils xdg-utils
 )
 
 missing=()
