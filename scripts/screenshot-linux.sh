@@ -17,6 +17,7 @@ if [ -z "${MORVANE_SHOT_HOME:-}" ]; then
   exit
 fi
 
+MORVANE_BUILD_DIR=$build_dir bash "$repo_root/scripts/install-linux.sh" >/dev/null
 documents=$HOME/Documents
 library=$(printf 'Z:%s' "${build_dir//\//\\}\\dist\\iconos.dll")
 for folder in "Holidays|3|Photos of the summer" "Music|5|" "Recipes|10|" "Plain folder||"; do
@@ -26,7 +27,8 @@ for folder in "Holidays|3|Photos of the summer" "Music|5|" "Recipes|10|" "Plain 
     printf '[.ShellClassInfo]\r\nIconFile=%s\r\nIconIndex=%s\r\nInfoTip=%s\r\n' \
       "$library" "$index" "$tip" >"$documents/$name/Desktop.ini"
   fi
-  /usr/bin/python3 "$repo_root/scripts/mirror_folder_icon.py" "$documents/$name" "$HOME/icons"
+  /usr/bin/python3 "$HOME/.local/share/morvane/scripts/mirror_folder_icon.py" "$documents/$name" \
+    "$HOME/.local/share/morvane/icons"
 done
 
 start_virtual_display
@@ -43,4 +45,9 @@ sleep 3
 eval "$(xdotool getwindowgeometry --shell "$window")"
 /usr/bin/import -window root -crop "${WIDTH}x${HEIGHT}+${X}+${Y}" +repage \
   "$repo_root/docs/linux-desktop.png"
-echo "Screenshot: $repo_root/docs/linux-desktop.png"
+# A folder's context menu, Morvane among its "Open With" entries.
+xdotool windowsize "$window" "$WIDTH" 600 sleep 1 mousemove $((X + 400)) $((Y + 500)) click 1 \
+  type Holidays
+xdotool key Escape mousemove $((X + 240)) $((Y + 200)) key shift+F10 sleep 1
+/usr/bin/import -window root -crop "${WIDTH}x600+${X}+${Y}" +repage "$repo_root/docs/linux-open-with.png"
+echo "Screenshots: $repo_root/docs/linux-desktop.png, $repo_root/docs/linux-open-with.png"
