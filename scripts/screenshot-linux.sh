@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
-# Takes docs/linux-desktop.png: folders given icons from Morvane's icon
-# library, as Caja (MATE's file manager, package caja) shows them once the
-# launcher has mirrored their Desktop.ini. Runs on a private display, D-Bus
-# session and home.
+# Takes docs/linux-desktop.png and docs/linux-open-with.png: after
+# install-linux.sh, folders given icons from Morvane's library as Caja (MATE's
+# file manager, package caja) shows them once their Desktop.ini is mirrored,
+# and a folder's context menu. Runs on a private display, D-Bus session and
+# home.
 set -euo pipefail
 source "$(dirname "$0")/common.sh"
 command -v caja >/dev/null || { echo "$0: needs caja (apt-get install caja)" >&2; exit 1; }
