@@ -38,8 +38,8 @@ windows() { printf 'Z:%s' "${1//\//\\}"; }
 # desktop_ini FOLDER ENCODING ICON_FILE INDEX TIP: a Desktop.ini as Morvane writes it.
 desktop_ini() {
   mkdir -p "$1"
-  printf '[.ShellClassInfo]\r\nConfirmFileOp=1\r\nNoSharing=0\r\nIconFile=%s\r\nIconIndex=%s\r\nInfoTip=%s\r\n[Morvane]\r\nMark=-1\r\n' \
-    "$3" "$4" "$5" | iconv -t "$2" >"$1/Desktop.ini"
+  { printf '[.ShellClassInfo]\r\nConfirmFileOp=1\r\nNoSharing=0\r\nIconFile=%s\r\n' "$3"
+    printf 'IconIndex=%s\r\nInfoTip=%s\r\n[Morvane]\r\nMark=-1\r\n' "$4" "$5"; } | iconv -t "$2" >"$1/Desktop.ini"
 }
 shown_icon() { gio info -a metadata::custom-icon "$1" | sed -n 's|^ *metadata::custom-icon: file://||p'; }
 # same_pixels PNG ICO: the PNG is the icon file's 48 pixel image, as icotool reads it.
