@@ -72,11 +72,16 @@ MimeType=inode/directory;
 Categories=Utility;
 ENTRY
 
-# Dolphin reads service menus only when they may be executed.
+# Dolphin reads service menus only when they may be executed. It looks at
+# their actions and types, not at Type: an application entry serves, and
+# passes desktop-file-validate, which KDE's Type=Service does not.
 service_menu=$data/kio/servicemenus/morvane.desktop
 cat >"$service_menu" <<ENTRY
 [Desktop Entry]
-Type=Service
+Type=Application
+Name=Morvane
+NoDisplay=true
+Exec="$launcher" %f
 MimeType=inode/directory;
 Actions=morvane;
 X-KDE-ServiceTypes=KonqPopupMenu/Plugin

@@ -26,7 +26,8 @@ fail() { echo "FAILED: $*"; exit 1; }
 listed() { gio mime inode/directory | grep -q 'morvane\.desktop'; }
 
 MORVANE_BUILD_DIR=$build_dir bash "$source_dir/scripts/install-linux.sh" >/dev/null
-desktop-file-validate "$apps/morvane.desktop" || fail "the application entry is not valid"
+desktop-file-validate "$apps/morvane.desktop" "$HOME/.local/share/kio/servicemenus/morvane.desktop" ||
+  fail "the desktop entries are not valid"
 listed || fail "gio lists no Morvane for folders: $(gio mime inode/directory)"
 [ "$(xdg-mime query default inode/directory)" = files.desktop ] || fail "Morvane opens folders by default"
 
