@@ -173,7 +173,6 @@ def mirror_gio(folder, png, store):
     return answer.returncode == 0
 
 
-
 def desktop_value(text):
     """A value as a desktop entry's string type writes it."""
     text = text.replace("\\", "\\\\").replace("\t", "\\t")
