@@ -53,8 +53,11 @@ void DrawBevel(toolkit::Element& control, int thickness, int distance, Bevel bev
   Edges e = onControl ? Edges{0, 0, width - 1, height - 1}
                       : Edges{left - px, top - py, left + width, top + height};
 
+  // Rings beyond the first go outwards around the control, inwards on it,
+  // where outside would be cut off.
+  const int step = onControl ? -1 : 1;
   for (int i = distance; i < distance + thickness; ++i) {
-    double dx = i * px, dy = i * py;
+    double dx = step * i * px, dy = step * i * py;
     double l = e.left - dx, t = e.top - dy, r = e.right + dx, b = e.bottom + dy;
     if (bevel == Bevel::kSunken) {
       target->DrawLine(l, t, r, t, kShadowColour);

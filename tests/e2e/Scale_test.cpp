@@ -1,8 +1,5 @@
 // Morvane on a display scaled to 150 %: Wine reads the prefix's LogPixels
 // when a process starts, so the program started under the change sees 144 dpi.
-#include <windows.h>
-
-#include <commctrl.h>
 #include <gtest/gtest.h>
 
 #include <vector>
@@ -14,130 +11,88 @@ namespace {
 using namespace e2e;
 
 constexpr DWORD kDpi = 144;
-constexpr int kIconSize = 48;  // the large icons at 144 dpi
-constexpr int kRowIcons = 7;   // the first row of the list at 150 %
-constexpr int kSpacing = 65;   // between icons: 43 px at 96 dpi
-constexpr int kCells = 66;     // room searched for each icon from its cell's corner
-constexpr char kDesktopKey[] = "Control Panel\\Desktop";
+constexpr int kIcon = 48;     // the large icons at 144 dpi
+constexpr int kRow = 7;       // icons in the list's first row
+constexpr int kSpacing = 65;  // 43 px at 96 dpi
+constexpr int kCell = 66;     // searched for each icon from its cell's corner
+constexpr char kDesktop[] = "Control Panel\\Desktop";
 
-// The prefix's display scale for programs started while it lives; the value
-// it had comes back at the end, so that other tests run at 96 dpi.
-class DisplayScale {
- public:
+// The scale while it lives; the tests' prefix has none of its own.
+struct DisplayScale {
   explicit DisplayScale(DWORD dpi) {
-    ::RegCreateKeyExA(HKEY_CURRENT_USER, kDesktopKey, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key_,
-                      nullptr);
-    DWORD size = sizeof old_;
-    had_ = ::RegQueryValueExA(key_, "LogPixels", nullptr, nullptr, reinterpret_cast<BYTE*>(&old_),
-                              &size) == ERROR_SUCCESS;
-    Set(dpi);
+    ::RegSetKeyValueA(HKEY_CURRENT_USER, kDesktop, "LogPixels", REG_DWORD, &dpi, sizeof dpi);
   }
-  ~DisplayScale() {
-    if (had_)
-      Set(old_);
-    else
-      ::RegDeleteValueA(key_, "LogPixels");
-    ::RegCloseKey(key_);
-  }
-
- private:
-  void Set(DWORD dpi) {
-    ::RegSetValueExA(key_, "LogPixels", 0, REG_DWORD, reinterpret_cast<const BYTE*>(&dpi),
-                     sizeof dpi);
-  }
-  HKEY key_ = nullptr;
-  DWORD old_ = 0;
-  bool had_ = false;
+  ~DisplayScale() { ::RegDeleteKeyValueA(HKEY_CURRENT_USER, kDesktop, "LogPixels"); }
 };
 
-// Pixels of a screen area, or of an icon drawn over `back`, row by row.
-std::vector<COLORREF> Pixels(const RECT& screenArea, HICON icon, COLORREF back) {
-  const int w = screenArea.right - screenArea.left, h = screenArea.bottom - screenArea.top;
-  BITMAPINFO info{{sizeof(BITMAPINFOHEADER), w, -h, 1, 32, BI_RGB, 0, 0, 0, 0, 0}, {}};
+// A square of the screen at `at`, or `icon` drawn over `back`, as RGB values.
+std::vector<COLORREF> Pixels(int side, POINT at, HICON icon = nullptr, COLORREF back = 0) {
+  BITMAPINFO info{{sizeof(BITMAPINFOHEADER), side, -side, 1, 32, BI_RGB, 0, 0, 0, 0, 0}, {}};
   void* bits = nullptr;
   HDC screen = ::GetDC(nullptr), memory = ::CreateCompatibleDC(screen);
-  HBITMAP bitmap = ::CreateDIBSection(screen, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
-  HGDIOBJ old = ::SelectObject(memory, bitmap);
-  if (icon) {
-    ::SetDCBrushColor(memory, back);
-    const RECT all{0, 0, w, h};
-    ::FillRect(memory, &all, static_cast<HBRUSH>(::GetStockObject(DC_BRUSH)));
+  HGDIOBJ old =
+      ::SelectObject(memory, ::CreateDIBSection(screen, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+  ::SelectObject(memory, ::GetStockObject(DC_BRUSH));
+  ::SetDCBrushColor(memory, back);
+  ::PatBlt(memory, 0, 0, side, side, PATCOPY);
+  if (icon)
     ::DrawIconEx(memory, 0, 0, icon, 0, 0, 0, nullptr, DI_NORMAL);
-  } else {
-    ::BitBlt(memory, 0, 0, w, h, screen, screenArea.left, screenArea.top, SRCCOPY);
-  }
+  else
+    ::BitBlt(memory, 0, 0, side, side, screen, at.x, at.y, SRCCOPY);
   ::GdiFlush();
-  const auto* first = static_cast<const COLORREF*>(bits);
-  std::vector<COLORREF> pixels(first, first + w * h);
-  for (COLORREF& pixel : pixels) pixel &= 0xffffff;  // without the alpha byte
+  std::vector<COLORREF> pixels(static_cast<COLORREF*>(bits),
+                               static_cast<COLORREF*>(bits) + side * side);
+  for (COLORREF& pixel : pixels) pixel &= 0xffffff;  // no alpha
   ::DeleteObject(::SelectObject(memory, old));
   ::DeleteDC(memory);
   ::ReleaseDC(nullptr, screen);
   return pixels;
 }
 
-// An icon drawn over black and over white: where both agree it is opaque,
-// where both show the background it is clear. Its half-clear edge pixels
-// blend in ways the test does not repeat, and are not compared.
-struct IconLook {
-  std::vector<COLORREF> overBlack, overWhite;
-};
-
-// Whether the cell shows all of the icon, each opaque pixel as it is and each
-// clear one as the list's background `back`, anywhere in the cell.
-bool ShowsWhole(const std::vector<COLORREF>& cell, const IconLook& icon, COLORREF back) {
-  auto matches = [&](int at, int n) {
-    const COLORREF black = icon.overBlack[n], white = icon.overWhite[n];
-    if (black == white) return cell[at] == black;
-    return black != 0 || white != 0xffffff || cell[at] == back;
-  };
-  for (int dy = 0; dy + kIconSize <= kCells; ++dy)
-    for (int dx = 0; dx + kIconSize <= kCells; ++dx) {
-      bool same = true;
-      for (int n = 0; n < kIconSize * kIconSize && same; ++n)
-        same = matches((dy + n / kIconSize) * kCells + dx + n % kIconSize, n);
-      if (same) return true;
-    }
-  return false;
-}
-
-TEST(Scale, At150PercentTheWindowGrowsAndTheListShowsEachIconWholeAtItsOwn48Pixels) {
+TEST(Scale, At150PercentTheWindowGrowsAndItsListShowsEachIconWholeAt48Pixels) {
   MovePointer(nullptr, {0, 0});  // no icon under the pointer, none lit
   DisplayScale scale(kDpi);
   ProgramRun run;
-  ASSERT_TRUE(run.Open(kRowIcons));
-  RECT client{}, preview{};
+  ASSERT_TRUE(run.Open(kRow));
+  RECT client{};
   ::GetClientRect(run.main, &client);
-  ::GetClientRect(run.Element(ids::kPreview), &preview);
   EXPECT_EQ(client.right, 866) << "8655 twips";
-  EXPECT_EQ(preview.right, kIconSize);
-
-  HWND list = run.Element(ids::kIconList);
-  const COLORREF set = static_cast<COLORREF>(::SendMessageA(list, LVM_GETBKCOLOR, 0, 0));
-  const COLORREF back = RGB(GetBValue(set), GetGValue(set), GetRValue(set));  // as a DIB holds it
-  const std::string library = run.File("iconos.dll");
-  std::vector<IconLook> looks;
-  for (int position = 1; position <= kRowIcons; ++position) {
+  // Each icon's opaque pixels: the same over black and over white. Its
+  // half-clear edges blend in ways the test does not repeat.
+  std::vector<std::vector<COLORREF>> opaque;
+  for (int i = 0; i < kRow; ++i) {
     HICON icon = nullptr;
     UINT id = 0;
-    ::PrivateExtractIconsA(library.c_str(), position - 1, kIconSize, kIconSize, &icon, &id, 1, 0);
-    const RECT square{0, 0, kIconSize, kIconSize};
-    looks.push_back({Pixels(square, icon, RGB(0, 0, 0)), Pixels(square, icon, RGB(255, 255, 255))});
+    ::PrivateExtractIconsA(run.File("iconos.dll").c_str(), i, kIcon, kIcon, &icon, &id, 1, 0);
+    opaque.push_back(Pixels(kIcon, {}, icon, RGB(0, 0, 0)));
+    const auto overWhite = Pixels(kIcon, {}, icon, RGB(255, 255, 255));
+    for (int n = 0; n < kIcon * kIcon; ++n)
+      if (opaque[i][n] != overWhite[n]) opaque[i][n] = CLR_INVALID;
     ::DestroyIcon(icon);
   }
-  int position = 0;  // the first icon not shown whole
+  auto whole = [&](int i) {  // somewhere in its cell, every opaque pixel as drawn
+    POINT corner{i * kSpacing, 0};
+    ::ClientToScreen(run.Element(ids::kIconList), &corner);
+    const auto cell = Pixels(kCell, corner);
+    for (int dy = 0; dy + kIcon <= kCell; ++dy)
+      for (int dx = 0, n = 0; dx + kIcon <= kCell; ++dx, n = 0) {
+        while (n < kIcon * kIcon &&
+               (opaque[i][n] == CLR_INVALID ||
+                cell[(dy + n / kIcon) * kCell + dx + n % kIcon] == opaque[i][n]))
+          ++n;
+        if (n == kIcon * kIcon) return true;
+      }
+    return false;
+  };
+  int i = 0;  // the first icon not shown whole
   EXPECT_TRUE(WaitUntil(
       [&] {
-        for (position = 1; position <= kRowIcons; ++position) {
-          POINT corner{(position - 1) * kSpacing, 0};
-          ::ClientToScreen(list, &corner);
-          const RECT cell{corner.x, corner.y, corner.x + kCells, corner.y + kCells};
-          if (!ShowsWhole(Pixels(cell, nullptr, 0), looks[position - 1], back)) return false;
-        }
+        for (i = 0; i < kRow; ++i)
+          if (!whole(i)) return false;
         return true;
       },
       10s))
-      << "icon " << position;
+      << "icon " << i + 1;
   EXPECT_TRUE(run.Close());
 }
 
