@@ -159,6 +159,13 @@ void AboutWindow::OnPaint(HDC) {
             *logo_, kEtchedLineTop, lineLength, kLogoAt);
 }
 
+// The button faces are cut from the skin, which is enlarged for each DPI.
+void AboutWindow::OnDpiChanged() {
+  skin_->SetPicture(SkinForDpi(context_.pictures.Bitmap(IDB_SKIN), Dpi()));
+  skin_->SetPicture(skin_->Image());
+  Tile();
+}
+
 void AboutWindow::OnClick() {
   Unload();
 }
