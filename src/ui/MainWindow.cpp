@@ -195,12 +195,7 @@ void MainWindow::OnLoad() {
   ::SetWindowTextW(Hwnd(), platform::Wide(context_.Text(IDS_PRODUCT_NAME) + " - " +
                                           context_.Text(IDS_PRODUCT_TAGLINE))
                                .c_str());
-  const std::string aboutTip = context_.Text(IDS_TIP_ABOUT);
-  Tips().SetTip(kDragStripTipId, dragStrip_->Bounds(), aboutTip);
-  Tips().SetTip(kHelpTipId, helpLink_->Bounds(), aboutTip);
-  // The label has room for the start of a long path only; its tip holds all of it.
-  Tips().SetTip(kFolderTipId, PairLabel(names::kCurrentIconLabel, 1).Bounds(),
-                context_.targetFolder);
+  SetLabelTips();
 
   ShowDefaultFolderIcon();
   ShowApplyButton(false);
@@ -270,6 +265,16 @@ void MainWindow::SetToolTips() {
   tips.SetTip(recentBox_->Hwnd(), context_.Text(IDS_TIP_RECENT));
   tips.SetTip(iconList_->Hwnd(), context_.Text(IDS_TIP_ICON_LIST));
   tips.SetTip(browseFace_->Hwnd(), context_.Text(IDS_TIP_BROWSE));
+}
+
+// Labels have no windows: their tips are areas of the form, in pixels.
+void MainWindow::SetLabelTips() {
+  const std::string aboutTip = context_.Text(IDS_TIP_ABOUT);
+  Tips().SetTip(kDragStripTipId, dragStrip_->Bounds(), aboutTip);
+  Tips().SetTip(kHelpTipId, helpLink_->Bounds(), aboutTip);
+  // The label has room for the start of a long path only; its tip holds all of it.
+  Tips().SetTip(kFolderTipId, PairLabel(names::kCurrentIconLabel, 1).Bounds(),
+                context_.targetFolder);
 }
 
 void MainWindow::KeepTexts() {

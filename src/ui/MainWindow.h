@@ -70,6 +70,7 @@ class MainWindow : public toolkit::Form {
   void FinishPair(const std::string& name, const toolkit::TwipsRect* frontSize);
   toolkit::Label& PairLabel(const std::string& name, int index) const;
   void SetToolTips();
+  void SetLabelTips();
   void KeepTexts();
   void FillRecentBox();
   void SetIconSpacing();

@@ -57,6 +57,7 @@ void MainWindow::OnMouseMove(const toolkit::MouseEvent&) {
 // the size the new DPI calls for.
 void MainWindow::OnDpiChanged() {
   ApplyWindowShape(*this);
+  SetLabelTips();
   skin_->SetPicture(SkinForDpi(context_.pictures.Bitmap(IDB_SKIN), Dpi()));
   skin_->SetPicture(skin_->Image());
   const int iconSize = platform::LargeIconSize(Dpi());
