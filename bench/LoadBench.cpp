@@ -15,6 +15,8 @@
 namespace bench {
 namespace {
 
+constexpr int kIconSize = 32;  // the large icons at 96 dpi
+
 constexpr char kPictureLibrary[] = "Resource.DLL";
 constexpr char kLanguageLibrary[] = "LANG_ENG.DLL";
 constexpr char kShippedLibrary[] = "iconos.dll";
@@ -103,7 +105,7 @@ StepCosts TimeLoadSteps(MainWindowRun& run, const std::string& file, int icons) 
   list.SetIcons(nullptr);
   list.Clear();
   images.Clear();
-  HICON icon = platform::IconFile(file).ExtractLarge(0);
+  HICON icon = platform::IconFile(file).Extract(0, kIconSize);
   costs.iconImageMs = TimeMs([&] {
     for (int i = 0; i < icons; ++i) window.AddIconImage(icon, i);
   });

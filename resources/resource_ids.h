@@ -11,7 +11,7 @@
 #define IDS_CURRENT_ICON_LABEL 1002  // followed by a line break and the folder path
 #define IDS_NEW_ICON_LABEL 1003
 #define IDS_CHOOSER_TITLE 1004
-#define IDS_CHOOSER_FILTER 1005      // "description|pattern|..." list
+#define IDS_CHOOSER_FILTER 1005  // "description|pattern|..." list
 #define IDS_MISSING_FILE_TITLE 1006
 #define IDS_MISSING_FILE_PROMPT 1007
 #define IDS_BROWSE_BUTTON 1008
@@ -28,9 +28,9 @@
 #define IDS_INFOTIP_LABEL 1021
 #define IDS_RECENT_LABEL 1022
 #define IDS_TIP_INFOTIP 1023
-#define IDS_STATUS_LOADING 1024      // followed by " i/count"
+#define IDS_STATUS_LOADING 1024  // followed by " i/count"
 #define IDS_STATUS_FEW_ICONS 1025
-#define IDS_STATUS_ICON_COUNT 1026   // preceded by "count "
+#define IDS_STATUS_ICON_COUNT 1026  // preceded by "count "
 #define IDS_DEFAULT_ICON_LABEL 1027
 #define IDS_REMOVE_PROMPT 1029
 #define IDS_TIP_ABOUT 1107
@@ -42,13 +42,13 @@
 #define IDS_TIP_DEFAULT_ICON 1115
 #define IDS_ABOUT_UPDATE 1903
 #define IDS_ABOUT_WEB_PAGE 1904
-#define IDS_HELP 1905                // help link and about-window help button
+#define IDS_HELP 1905  // help link and about-window help button
 #define IDS_ABOUT_OK 1906
 #define IDS_ABOUT_VERSION 1907
 #define IDS_ABOUT_THANKS 1908
 #define IDS_ABOUT_SUMMARY 1910
 #define IDS_ABOUT_RIGHTS 1911
-#define IDS_ABOUT_SETTINGS 1912      // caption of a button that is never shown
+#define IDS_ABOUT_SETTINGS 1912  // caption of a button that is never shown
 #define IDS_SPLASH_INFO 1913
 #define IDS_ABOUT_CREDITS 1952
 #define IDS_ABOUT_CONTACT 1953
@@ -56,5 +56,10 @@
 // Resource.DLL.
 #define IDB_SKIN 2000
 #define IDB_LOGO 2003
+// The logo drawn for displays scaled to 125, 150, 175 and 200 %.
+#define IDB_LOGO_125 2004
+#define IDB_LOGO_150 2005
+#define IDB_LOGO_175 2006
+#define IDB_LOGO_200 2007
 #define IDI_WINDOW 4001
 #define IDR_FONT 6000

@@ -61,11 +61,12 @@ unmanaged_windows() {
 
 xvfb_pid=""
 # Starts a private X server for programs that need a display; sets DISPLAY.
+# MORVANE_SCREEN_SIZE (WIDTHxHEIGHT) makes it larger than 1024x768.
 start_virtual_display() {
   local fifo
   fifo=$(mktemp -u)
   mkfifo "$fifo"
-  Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp 3>"$fifo" >/dev/null 2>&1 &
+  Xvfb -displayfd 3 -screen 0 "${MORVANE_SCREEN_SIZE:-1024x768}x24" -nolisten tcp 3>"$fifo" >/dev/null 2>&1 &
   xvfb_pid=$!
   local number
   read -r number <"$fifo"

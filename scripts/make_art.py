@@ -4,7 +4,8 @@
 Usage: make_art.py OUTDIR
 
 Writes skin.bmp (window texture, also the button faces), logo.bmp (yellow is
-its transparent colour) and morvane.ico.  Every random choice comes from a
+its transparent colour) with its larger copies logo125.bmp to logo200.bmp for
+displays scaled to 125 % and more, and morvane.ico.  Every random choice comes from a
 fixed seed so a rebuild gives the same bytes.
 """
 
@@ -28,6 +29,9 @@ SKIN_SIZE = 256
 LOGO_SIZE = (200, 34)
 ICON_SIZES = (16, 32, 48)
 SUPERSAMPLE = 4
+# Display scales in percent the logo is drawn for, besides 100 %; each is
+# drawn on its own, since an enlarged copy of the small one would blur.
+LOGO_SCALES = (125, 150, 175, 200)
 
 LOGO_FONT = "/usr/share/fonts/truetype/dejavu/DejaVuSans-Bold.ttf"  # fonts-dejavu-core
 
@@ -181,10 +185,12 @@ def draw_folder(size, box, outline_px, badge_scale=1.0):
 
 # ---------------------------------------------------------------- logo
 
-def make_logo():
-    s = SUPERSAMPLE
-    width, height = LOGO_SIZE
-    big = (width * s, height * s)
+def make_logo(percent=100):
+    # Drawn SUPERSAMPLE times larger than it is shown; one pixel of the 100 %
+    # design is s pixels there.
+    s = SUPERSAMPLE * percent // 100
+    width, height = (round(v * percent / 100) for v in LOGO_SIZE)
+    big = (width * SUPERSAMPLE, height * SUPERSAMPLE)
     art = draw_folder(big, (2 * s, 3 * s, 38 * s, 31 * s), 1.4 * s, badge_scale=0.95)
 
     text = "Morvane"
@@ -213,8 +219,8 @@ def make_logo():
     _paint(art, text_layer, _vertical_gradient(big, (0, 6 * s, big[0], 28 * s),
                                                (255, 255, 255), (232, 224, 206)))
 
-    small = art.resize(LOGO_SIZE, Image.LANCZOS)
-    backing = Image.new("RGBA", LOGO_SIZE, PAPER + (255,))
+    small = art.resize((width, height), Image.LANCZOS)
+    backing = Image.new("RGBA", (width, height), PAPER + (255,))
     backing.alpha_composite(small)
     logo = backing.convert("RGB")
     alpha = small.getchannel("A").load()
@@ -287,6 +293,8 @@ def main(argv):
     os.makedirs(out, exist_ok=True)
     make_skin().save(os.path.join(out, "skin.bmp"))
     make_logo().save(os.path.join(out, "logo.bmp"))
+    for percent in LOGO_SCALES:
+        make_logo(percent).save(os.path.join(out, "logo%d.bmp" % percent))
     write_ico(os.path.join(out, "morvane.ico"), [make_icon_image(n) for n in ICON_SIZES])
     return 0
 

@@ -18,7 +18,9 @@ from PIL import Image, ImageChops, ImageDraw, ImageFilter
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 from make_art import write_ico  # noqa: E402  (one .ico writer for the project)
 
-SIZES = (16, 32, 48)
+# The large icon's sizes at 100, 125, 150 and 200 % besides the small one:
+# each drawn for itself, never enlarged from a smaller one.
+SIZES = (16, 32, 40, 48, 64)
 SUPERSAMPLE = 8
 
 # Front colours. Back panel, outline and symbol shadow are derived from them.

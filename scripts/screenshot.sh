@@ -8,6 +8,7 @@ build_morvane >/dev/null
 prepare_wine_prefix "$build_dir/wineprefix"
 start_virtual_display
 cleanup() {
+  wine reg delete 'HKCU\Control Panel\Desktop' /v LogPixels /f >/dev/null 2>&1 || true
   wineserver -k 2>/dev/null || true
   stop_virtual_display
 }
@@ -132,3 +133,52 @@ managed_window_screenshot() {
   echo "docs/managed-window.png"
 }
 managed_window_screenshot
+
+# docs/main-window-144.png and -192.png: the window at 150 % and 200 %, on
+# a display large enough for it. Wine reads the prefix's LogPixels when a
+# program starts. Positions are those of the 96 dpi road, scaled from the
+# window's corner. With MORVANE_ABOUT_SHOT=PREFIX the about window at each
+# scale is saved too, as PREFIX-DPI.png, for a look.
+scaled_screenshot() {
+  local dpi=$1
+  # A plain folder again, whose current icon Wine's shell shows.
+  rm -rf "$sample"
+  mkdir -p "$sample"
+  wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$dpi" /f \
+    >/dev/null 2>&1 </dev/null
+  wine "$program/Morvane.exe" "${words[@]}" &
+  local morvane=$!
+  wait_until 30 showing '^Morvane - '
+  wait_until 60 gone '^frmSplash$'
+  sleep 1
+  local id X Y WIDTH HEIGHT
+  id=$(xdotool search --onlyvisible --name '^Morvane - ' | head -n 1)
+  eval "$(xdotool getwindowgeometry --shell "$id" | grep -E '^(X|Y|WIDTH|HEIGHT)=')"
+  at() { echo $((X + $1 * dpi / 96)) $((Y + $2 * dpi / 96)); }
+  xdotool mousemove $(at 417 135) click 1 sleep 0.5
+  xdotool mousemove $(at 127 260) click 1 sleep 0.3
+  xdotool type --delay 30 "Summer 2026 on the coast: beaches, boats and the old harbour."
+  xdotool mousemove $(at 260 200) sleep 0.5 mousemove 5 5 sleep 1
+  local margin=$((10 * dpi / 96))
+  /usr/bin/import -window root -crop "$((WIDTH + 2 * margin))x$((HEIGHT + 2 * margin))+$((X - margin))+$((Y - margin))" \
+    +repage "$repo_root/docs/main-window-$dpi.png"
+  if [ -n "${MORVANE_ABOUT_SHOT:-}" ]; then
+    xdotool mousemove $(at 543 57) click 1 sleep 1.5 mousemove 5 5 sleep 0.5
+    /usr/bin/import -window root "$MORVANE_ABOUT_SHOT-$dpi.png"
+    # A click on its background closes it.
+    local about
+    about=$(xdotool search --onlyvisible --name '^frmSplash$' | head -n 1)
+    eval "$(xdotool getwindowgeometry --shell "$about" | grep -E '^(X|Y)=')"
+    xdotool mousemove $(at 4 100) click 1
+    wait_until 10 gone '^frmSplash$'
+    eval "$(xdotool getwindowgeometry --shell "$id" | grep -E '^(X|Y)=')"
+  fi
+  xdotool mousemove $(at 532 402) click 1
+  wait "$morvane" || true
+  echo "docs/main-window-$dpi.png"
+}
+wineserver -k
+stop_virtual_display
+MORVANE_SCREEN_SIZE=1600x1200 start_virtual_display
+start_wine_server
+for dpi in 144 192; do scaled_screenshot "$dpi"; done

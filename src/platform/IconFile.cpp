@@ -36,17 +36,18 @@ std::int32_t IconFile::Count() const {
   return static_cast<std::int32_t>(count);
 }
 
-HICON IconFile::ExtractLarge(std::int32_t index) const {
-  if (!intact_) return nullptr;
-  HICON large = nullptr;
-  HICON small = nullptr;
-  UINT answer = ::ExtractIconExW(systemPath_.c_str(), index, &large, &small, kOneIcon);
-  // The slots hold junk after a failed call, so they are read only after a
+// Not ExtractIconEx: it makes the system's large and small sizes only, and
+// a per-monitor aware window may need another.
+HICON IconFile::Extract(std::int32_t index, int size) const {
+  if (!intact_ || index == kCountOnly || size <= 0) return nullptr;
+  HICON icon = nullptr;
+  UINT id = 0;
+  UINT answer = ::PrivateExtractIconsW(systemPath_.c_str(), index, size, size, &icon, &id, kOneIcon,
+                                       LR_DEFAULTCOLOR);
+  // The slot holds junk after a failed call, so it is read only after a
   // successful one.
   if (ExtractedNothing(answer)) return nullptr;
-  // The system made a small icon as well; only the large one is handed out.
-  ScopedIcon unwanted(small);
-  return large;
+  return icon;
 }
 
 void ReleaseIcon(HICON icon) {

@@ -20,11 +20,12 @@ class IconFile {
   // file that holds no icons.
   std::int32_t Count() const;
 
-  // The large icon at 0-based position `index`, or 0; the caller owns it
-  // (ReleaseIcon, or hand it to a picture). The index goes to the system
-  // unchanged: -1 and positions at or past the count give 0, and other
-  // negative values name an icon by its resource identifier.
-  HICON ExtractLarge(std::int32_t index) const;
+  // The icon at 0-based position `index`, `size` pixels square (the image of
+  // that size the file holds, else one made from the nearest), or 0; the
+  // caller owns it (ReleaseIcon, or hand it to a picture). -1 and positions
+  // at or past the count give 0; other negative values name an icon by its
+  // resource identifier.
+  HICON Extract(std::int32_t index, int size) const;
 
  private:
   std::string path_;

@@ -19,7 +19,7 @@ double TwipsPerUnit(ScaleMode mode) {
   }
 }
 
-double PerPixel(ScaleMode mode, int twipsPerPixel) {
+double PerPixel(ScaleMode mode, double twipsPerPixel) {
   if (mode == ScaleMode::kPixels) return 1.0;
   double twips = TwipsPerUnit(mode);
   return twips > 0 ? twipsPerPixel / twips : 0.0;
@@ -28,10 +28,10 @@ double PerPixel(ScaleMode mode, int twipsPerPixel) {
 }  // namespace
 
 double Canvas::UnitsPerPixelX() const {
-  return PerPixel(Scale(), Screen::TwipsPerPixelX());
+  return PerPixel(Scale(), Screen::TwipsPerPixel(DrawingDpi()));
 }
 double Canvas::UnitsPerPixelY() const {
-  return PerPixel(Scale(), Screen::TwipsPerPixelY());
+  return PerPixel(Scale(), Screen::TwipsPerPixel(DrawingDpi()));
 }
 
 void Canvas::DrawLine(double x1, double y1, double x2, double y2, COLORREF colour) const {

@@ -17,6 +17,8 @@ class Canvas {
   virtual HDC hDC() const = 0;
   virtual int DrawWidth() const = 0;
   virtual void SetDrawWidth(int pixels) = 0;
+  // The DPI its pixels stand for.
+  virtual int DrawingDpi() const = 0;
 
   // Coordinates in the canvas's unit.
   void DrawLine(double x1, double y1, double x2, double y2, COLORREF colour) const;

@@ -4,20 +4,16 @@
 #include <utility>
 
 #include "platform/Utf8.h"
+#include "toolkit/Screen.h"
 
 namespace toolkit {
 namespace {
 
 constexpr int kPointsPerInch = 72;
 
-int ScreenDpiY() {
-  platform::WindowDC screen(nullptr);
-  return screen ? ::GetDeviceCaps(screen.get(), LOGPIXELSY) : USER_DEFAULT_SCREEN_DPI;
-}
-
-LOGFONTW Describe(const std::wstring& face, double points, bool bold) {
+LOGFONTW Describe(const std::wstring& face, double points, bool bold, int dpi) {
   LOGFONTW font{};
-  font.lfHeight = -static_cast<LONG>(std::lround(points * ScreenDpiY() / kPointsPerInch));
+  font.lfHeight = -static_cast<LONG>(std::lround(points * dpi / kPointsPerInch));
   font.lfWeight = bold ? FW_BOLD : FW_NORMAL;
   font.lfCharSet = DEFAULT_CHARSET;
   font.lfQuality = DEFAULT_QUALITY;
@@ -38,7 +34,7 @@ bool SameFace(const std::string& a, const std::string& b) {
 std::string ResolvedFontFace(const std::string& face) {
   const std::wstring wide = platform::Wide(face);
   if (wide.empty() || wide.size() >= LF_FACESIZE) return {};
-  LOGFONTW description = Describe(wide, kDesignFontPoints, false);
+  LOGFONTW description = Describe(wide, kDesignFontPoints, false, Screen::Dpi());
   platform::ScopedFont font(::CreateFontIndirectW(&description));
   platform::WindowDC screen(nullptr);
   if (!font || !screen) return {};
@@ -49,7 +45,10 @@ std::string ResolvedFontFace(const std::string& face) {
 }
 
 Element::Element(std::string name, std::string kind, FontSupport font)
-    : name_(std::move(name)), kind_(std::move(kind)), hasFont_(font == FontSupport::kHasFont) {
+    : name_(std::move(name)),
+      kind_(std::move(kind)),
+      hasFont_(font == FontSupport::kHasFont),
+      dpi_(Screen::Dpi()) {
   if (hasFont_) RebuildFont();
 }
 
@@ -94,12 +93,24 @@ void Element::SetFontBold(bool bold) {
   RebuildFont();
 }
 
+void Element::SetDpi(int dpi) {
+  if (dpi == dpi_ || dpi <= 0) return;
+  dpi_ = dpi;
+  if (hasFont_) RebuildFont();
+}
+
 RECT Element::Bounds() const {
   RECT bounds{};
   if (!window_) return bounds;
   ::GetWindowRect(window_, &bounds);
   ::MapWindowPoints(nullptr, ::GetParent(window_), reinterpret_cast<POINT*>(&bounds), 2);
   return bounds;
+}
+
+void Element::Place(const RECT& pixels) {
+  if (!window_) return;
+  ::SetWindowPos(window_, nullptr, pixels.left, pixels.top, pixels.right - pixels.left,
+                 pixels.bottom - pixels.top, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void Element::AttachWindow(HWND window) {
@@ -109,7 +120,7 @@ void Element::AttachWindow(HWND window) {
 }
 
 void Element::RebuildFont() {
-  LOGFONTW description = Describe(platform::Wide(face_), points_, bold_);
+  LOGFONTW description = Describe(platform::Wide(face_), points_, bold_, dpi_);
   platform::ScopedFont replacement(::CreateFontIndirectW(&description));
   if (!replacement) return;
   // The window lets go of the old font before it is deleted.

@@ -48,10 +48,17 @@ class Element {
   void SetFontBold(bool bold);
   HFONT Font() const { return font_.get(); }
 
+  // The DPI the element is drawn at, that of the window it belongs to; its
+  // font follows it.
+  int Dpi() const { return dpi_; }
+  void SetDpi(int dpi);
+
   HWND Window() const { return window_; }
 
   // Position and size in the parent's client area, pixels.
   virtual RECT Bounds() const;
+  // Moves the element's own window there; nothing for an element without one.
+  virtual void Place(const RECT& pixels);
   // The form (or surface) the element sits on; nullptr for none.
   Canvas* Parent() const { return parent_; }
   void SetParent(Canvas* parent) { parent_ = parent; }
@@ -73,6 +80,7 @@ class Element {
   bool bold_ = false;
   platform::ScopedFont font_;
   HWND window_ = nullptr;
+  int dpi_;
   Canvas* parent_ = nullptr;
 };
 

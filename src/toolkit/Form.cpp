@@ -3,6 +3,7 @@
 #include <commctrl.h>
 #include <windowsx.h>
 
+#include "platform/Dpi.h"
 #include "toolkit/Screen.h"
 
 namespace toolkit {
@@ -41,16 +42,21 @@ Form::~Form() {
   DestroyOwnWindow();
 }
 
-using Screen::ToPixels;
-
 void Form::Load() {
   if (Loaded()) return;
+  SetDpi(Screen::Dpi());
   RECT pixels = ToPixels({0, 0, widthTwips_, heightTwips_});
   if (!CreateWindowOf(kFormClass, Name(), WS_POPUP | WS_CLIPCHILDREN, ExtendedStyle(), pixels,
                       nullptr, 0)) {
     return;
   }
   AttachWindow(Hwnd());
+  // Made where the system's DPI holds, the window may stand on a monitor of
+  // another.
+  if (platform::WindowDpi(Hwnd()) != Dpi()) {
+    SetDpi(platform::WindowDpi(Hwnd()));
+    Resize(widthTwips_, heightTwips_);
+  }
   CreateElements();
   for (const Timer& timer : timers_) ::SetTimer(Hwnd(), timer.id, timer.interval, nullptr);
   OnLoad();
@@ -126,6 +132,7 @@ void Form::Unload(UnloadMode mode) {
 void Form::DestroyElements() {
   tips_.reset();
   controls_.clear();
+  placed_.clear();
   labels_.clear();
   lines_.clear();
   timers_.clear();
@@ -136,18 +143,18 @@ void Form::DestroyElements() {
 int Form::Left() const {
   RECT outer{};
   if (Loaded()) ::GetWindowRect(Hwnd(), &outer);
-  return Screen::PixelsToTwipsX(outer.left);
+  return Screen::PixelsToTwips(outer.left, Dpi());
 }
 
 int Form::Top() const {
   RECT outer{};
   if (Loaded()) ::GetWindowRect(Hwnd(), &outer);
-  return Screen::PixelsToTwipsY(outer.top);
+  return Screen::PixelsToTwips(outer.top, Dpi());
 }
 
 void Form::Move(int left, int top) {
   if (!Loaded()) return;
-  ::SetWindowPos(Hwnd(), nullptr, Screen::TwipsToPixelsX(left), Screen::TwipsToPixelsY(top), 0, 0,
+  ::SetWindowPos(Hwnd(), nullptr, ToPixels(left), ToPixels(top), 0, 0,
                  SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
@@ -155,8 +162,12 @@ void Form::Resize(int width, int height) {
   widthTwips_ = width;
   heightTwips_ = height;
   if (!Loaded()) return;
-  ::SetWindowPos(Hwnd(), nullptr, 0, 0, Screen::TwipsToPixelsX(width),
-                 Screen::TwipsToPixelsY(height), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+  ::SetWindowPos(Hwnd(), nullptr, 0, 0, ToPixels(width), ToPixels(height),
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+int Form::ScalePixels(int pixels) const {
+  return platform::ScalePixels(pixels, Dpi());
 }
 
 int Form::ScaleX(int pixels) const {
@@ -197,7 +208,15 @@ template <typename T>
 T& Form::Keep(std::unique_ptr<T> element) {
   T& kept = *element;
   kept.SetParent(this);
+  kept.SetDpi(Dpi());
   elements_.push_back(std::move(element));
+  return kept;
+}
+
+template <typename T>
+T& Form::Place(std::unique_ptr<T> element, const TwipsRect& twips) {
+  T& kept = Keep(std::move(element));
+  placed_.emplace_back(&kept, twips);
   return kept;
 }
 
@@ -209,7 +228,7 @@ Label& Form::AddLabel(const std::string& name, int index, const TwipsRect& twips
 }
 
 PictureBox& Form::AddPictureBox(const std::string& name, const TwipsRect& twips, int id) {
-  return Keep(std::make_unique<PictureBox>(name, Hwnd(), ToPixels(twips), id));
+  return Place(std::make_unique<PictureBox>(name, Hwnd(), ToPixels(twips), id), twips);
 }
 
 Line& Form::AddLine(const std::string& name, POINT fromTwips, POINT toTwips) {
@@ -220,20 +239,21 @@ Line& Form::AddLine(const std::string& name, POINT fromTwips, POINT toTwips) {
 
 TextBox& Form::AddTextBox(const std::string& name, const TwipsRect& twips, int id,
                           TextBox::Lines lines) {
-  TextBox& box = Keep(std::make_unique<TextBox>(name, Hwnd(), ToPixels(twips), id, lines));
+  TextBox& box = Place(std::make_unique<TextBox>(name, Hwnd(), ToPixels(twips), id, lines), twips);
   controls_.push_back(&box);
   return box;
 }
 
 ComboBox& Form::AddComboBox(const std::string& name, const TwipsRect& twips, int id,
                             int dropLines) {
-  ComboBox& box = Keep(std::make_unique<ComboBox>(name, Hwnd(), ToPixels(twips), id, dropLines));
+  ComboBox& box =
+      Place(std::make_unique<ComboBox>(name, Hwnd(), ToPixels(twips), id, dropLines), twips);
   controls_.push_back(&box);
   return box;
 }
 
 ListView& Form::AddListView(const std::string& name, const TwipsRect& twips, int id) {
-  ListView& list = Keep(std::make_unique<ListView>(name, Hwnd(), ToPixels(twips), id));
+  ListView& list = Place(std::make_unique<ListView>(name, Hwnd(), ToPixels(twips), id), twips);
   controls_.push_back(&list);
   return list;
 }
@@ -278,9 +298,8 @@ void Form::OnPaintMessage() {
   for (const Line* line : lines_) {
     HPEN pen = ::CreatePen(PS_SOLID, 1, line->Colour());
     HGDIOBJ old = ::SelectObject(dc, pen);
-    ::MoveToEx(dc, Screen::TwipsToPixelsX(line->From().x), Screen::TwipsToPixelsY(line->From().y),
-               nullptr);
-    ::LineTo(dc, Screen::TwipsToPixelsX(line->To().x), Screen::TwipsToPixelsY(line->To().y));
+    ::MoveToEx(dc, ToPixels(line->From().x), ToPixels(line->From().y), nullptr);
+    ::LineTo(dc, ToPixels(line->To().x), ToPixels(line->To().y));
     ::SelectObject(dc, old);
     ::DeleteObject(pen);
   }
@@ -321,6 +340,16 @@ void Form::OnActivateMessage(WORD state) {
   OnActivate();
 }
 
+void Form::OnDpiChangedMessage(int dpi, const RECT& suggested) {
+  SetDpi(dpi);
+  for (const auto& element : elements_) element->SetDpi(dpi);
+  for (const auto& [element, twips] : placed_) element->Place(ToPixels(twips));
+  ::SetWindowPos(Hwnd(), nullptr, suggested.left, suggested.top, suggested.right - suggested.left,
+                 suggested.bottom - suggested.top, SWP_NOZORDER | SWP_NOACTIVATE);
+  OnDpiChanged();
+  ::InvalidateRect(Hwnd(), nullptr, TRUE);
+}
+
 void Form::KeepBehindFront(const WINDOWPOS& position) {
   if (!front_ || keepingBehind_ || !front_->Visible() || (position.flags & SWP_NOZORDER)) return;
   for (HWND above = ::GetWindow(Hwnd(), GW_HWNDPREV); above;
@@ -353,6 +382,9 @@ LRESULT Form::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       return 1;
     }
     case WM_ACTIVATE: OnActivateMessage(LOWORD(wParam)); return 0;
+    case WM_DPICHANGED:
+      OnDpiChangedMessage(HIWORD(wParam), *reinterpret_cast<const RECT*>(lParam));
+      return 0;
     // Wine activates a clicked window whatever its style says.
     case WM_MOUSEACTIVATE:
       if (ExtendedStyle() & WS_EX_NOACTIVATE) return MA_NOACTIVATE;

@@ -88,6 +88,12 @@ class Form : public Element, public Canvas, private WindowBase, public ElementOw
   HDC hDC() const override;  // the form's own drawing context
   int DrawWidth() const override { return drawWidth_; }
   void SetDrawWidth(int pixels) override { drawWidth_ = pixels; }
+  int DrawingDpi() const override { return Dpi(); }
+  // Twips to pixels at the form's DPI.
+  int ToPixels(int twips) const { return Screen::TwipsToPixels(twips, Dpi()); }
+  RECT ToPixels(const TwipsRect& twips) const { return Screen::ToPixels(twips, Dpi()); }
+  // Pixels drawn for 96 dpi, at the form's DPI.
+  int ScalePixels(int pixels) const;
   // Pixels, converted to the form's own unit.
   int ScaleX(int pixels) const;
   int ScaleY(int pixels) const;
@@ -116,6 +122,9 @@ class Form : public Element, public Canvas, private WindowBase, public ElementOw
   virtual void OnClick() {}
   virtual void OnDblClick() {}
   virtual void OnActivate() {}
+  // After the form has moved to a monitor of another DPI and its elements
+  // stand at their places for it: what the form sized in pixels is redone.
+  virtual void OnDpiChanged() {}
 
   Label& AddLabel(const std::string& name, int index, const TwipsRect& twips);
   PictureBox& AddPictureBox(const std::string& name, const TwipsRect& twips, int id);
@@ -144,6 +153,9 @@ class Form : public Element, public Canvas, private WindowBase, public ElementOw
   void OnPaintMessage();
   void KeepBehindFront(const WINDOWPOS& position);
   void OnActivateMessage(WORD state);
+  void OnDpiChangedMessage(int dpi, const RECT& suggested);
+  template <typename T>
+  T& Place(std::unique_ptr<T> element, const TwipsRect& twips);
   void OnMouseMessage(UINT message, WPARAM wParam, LPARAM lParam);
   Label* LabelAt(POINT pixels) const;
   Control* ControlOf(HWND window) const;
@@ -160,6 +172,9 @@ class Form : public Element, public Canvas, private WindowBase, public ElementOw
   std::vector<Line*> lines_;
   std::vector<Timer> timers_;
   std::vector<Control*> controls_;
+  // Elements with windows of their own, at their design places; placed
+  // again when the DPI changes.
+  std::vector<std::pair<Element*, TwipsRect>> placed_;
   std::unique_ptr<ToolTips> tips_;
   MouseHandlers formMouse_;  // the form's own events, as handlers
   MouseHandlers* pressed_ = nullptr;

@@ -106,6 +106,13 @@ void ImageList::Clear() {
   keys_.clear();
 }
 
+void ImageList::SetImageSize(int width, int height) {
+  width_ = width;
+  height_ = height;
+  ::ImageList_SetIconSize(list_, width, height);
+  keys_.clear();
+}
+
 int ImageList::Count() const {
   return ::ImageList_GetImageCount(list_);
 }

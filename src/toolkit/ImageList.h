@@ -28,6 +28,8 @@ class ImageList : public Element {
   // the key is taken. Returns the image's position, from 1.
   int Add(const std::string& key, const platform::Picture& picture);
   void Clear();
+  // Images of another size from now on; removes every image.
+  void SetImageSize(int width, int height);
   // Makes room for `images` images at once while the list is empty, so that
   // adding them does not grow it step by step (each step copies every image
   // held so far). A list that has the room is left as it is; otherwise the

@@ -29,7 +29,7 @@ class Label : public Element {
   // as drawn, in pixels.
   const TwipsRect& Position() const { return twips_; }
   void Move(const TwipsRect& twips);
-  RECT Bounds() const override { return Screen::ToPixels(twips_); }
+  RECT Bounds() const override { return Screen::ToPixels(twips_, Dpi()); }
 
   // Draws the caption, word-wrapped inside the bounds, without a background.
   void Draw(HDC dc) const;

@@ -153,6 +153,14 @@ void PictureBox::Resize(int width, int height) {
   MakeImage();
 }
 
+void PictureBox::Place(const RECT& pixels) {
+  if (Hwnd()) {
+    ::SetWindowPos(Hwnd(), nullptr, pixels.left, pixels.top, 0, 0,
+                   SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  }
+  Resize(pixels.right - pixels.left, pixels.bottom - pixels.top);
+}
+
 void PictureBox::SetPicture(platform::Picture picture) {
   picture_ = std::move(picture);
   SIZE size{};
@@ -233,7 +241,9 @@ LRESULT PictureBox::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 bool DrawIconInPicture(HICON icon, PictureBox& surface, int x, int y) {
   const bool wasPersistent = surface.AutoRedraw();
   surface.SetAutoRedraw(true);
-  const bool drawn = ::DrawIcon(surface.hDC(), x, y, icon) != FALSE;
+  // At the icon's own size: DrawIcon would make it the system's large size,
+  // which a window on a monitor of another DPI does not use.
+  const bool drawn = ::DrawIconEx(surface.hDC(), x, y, icon, 0, 0, 0, nullptr, DI_NORMAL) != FALSE;
   if (drawn) surface.Refresh();
   surface.SetAutoRedraw(wasPersistent);
   return drawn;

@@ -45,6 +45,7 @@ class PictureBox : public Element, public Canvas, private WindowBase {
   void SetScaleMode(ScaleMode mode) override { scaleMode_ = mode; }
   int DrawWidth() const override { return drawWidth_; }
   void SetDrawWidth(int pixels) override { drawWidth_ = pixels; }
+  int DrawingDpi() const override { return Dpi(); }
 
   // Shows what should be seen now, synchronously.
   void Refresh();
@@ -68,6 +69,7 @@ class PictureBox : public Element, public Canvas, private WindowBase {
   void SetAutoSize(bool on) { autoSize_ = on; }
   // New inner size in pixels; the persistent image starts afresh.
   void Resize(int width, int height);
+  void Place(const RECT& pixels) override;
 
   void SetVisible(bool visible);
   bool Visible() const;

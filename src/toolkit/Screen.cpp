@@ -2,47 +2,37 @@
 
 #include <windows.h>
 
-#include "platform/ScopedHandle.h"
+#include "platform/Dpi.h"
 
 namespace toolkit::Screen {
-namespace {
 
-int Dpi(int axis) {
-  platform::WindowDC screen(nullptr);
-  int dpi = screen ? ::GetDeviceCaps(screen.get(), axis) : USER_DEFAULT_SCREEN_DPI;
-  return dpi > 0 ? dpi : USER_DEFAULT_SCREEN_DPI;
+int Dpi() {
+  return platform::SystemDpi();
 }
 
-int Round(int value, int divisor) {
-  return (value >= 0 ? value + divisor / 2 : value - divisor / 2) / divisor;
+double TwipsPerPixel(int dpi) {
+  return static_cast<double>(kTwipsPerInch) / dpi;
 }
 
-}  // namespace
-
-int TwipsPerPixelX() {
-  return kTwipsPerInch / Dpi(LOGPIXELSX);
+int Width(int dpi) {
+  return PixelsToTwips(::GetSystemMetrics(SM_CXSCREEN), dpi);
 }
-int TwipsPerPixelY() {
-  return kTwipsPerInch / Dpi(LOGPIXELSY);
+int Height(int dpi) {
+  return PixelsToTwips(::GetSystemMetrics(SM_CYSCREEN), dpi);
 }
 
-int Width() {
-  return ::GetSystemMetrics(SM_CXSCREEN) * TwipsPerPixelX();
+// MulDiv rounds halves away from zero, as the design's conversions did.
+int TwipsToPixels(int twips, int dpi) {
+  return ::MulDiv(twips, dpi, kTwipsPerInch);
 }
-int Height() {
-  return ::GetSystemMetrics(SM_CYSCREEN) * TwipsPerPixelY();
-}
-
-int TwipsToPixelsX(int twips) {
-  return Round(twips, TwipsPerPixelX());
-}
-int TwipsToPixelsY(int twips) {
-  return Round(twips, TwipsPerPixelY());
+int PixelsToTwips(int pixels, int dpi) {
+  return ::MulDiv(pixels, kTwipsPerInch, dpi);
 }
 
-RECT ToPixels(const TwipsRect& twips) {
-  return RECT{TwipsToPixelsX(twips.left), TwipsToPixelsY(twips.top),
-              TwipsToPixelsX(twips.left + twips.width), TwipsToPixelsY(twips.top + twips.height)};
+RECT ToPixels(const TwipsRect& twips, int dpi) {
+  return RECT{TwipsToPixels(twips.left, dpi), TwipsToPixels(twips.top, dpi),
+              TwipsToPixels(twips.left + twips.width, dpi),
+              TwipsToPixels(twips.top + twips.height, dpi)};
 }
 
 }  // namespace toolkit::Screen

@@ -1,5 +1,6 @@
 #include "ui/AboutWindow.h"
 
+#include "platform/Dpi.h"
 #include "platform/WebPage.h"
 #include "resource_ids.h"
 #include "ui/ControlIds.h"
@@ -78,8 +79,9 @@ void AboutWindow::CreateElements() {
 }
 
 void AboutWindow::OnLoad() {
-  Move((toolkit::Screen::Width() - Width()) / 2, (toolkit::Screen::Height() - Height()) / 2);
-  skin_->SetPicture(context_.pictures.Bitmap(IDB_SKIN));
+  Move((toolkit::Screen::Width(Dpi()) - Width()) / 2,
+       (toolkit::Screen::Height(Dpi()) - Height()) / 2);
+  skin_->SetPicture(SkinForDpi(context_.pictures.Bitmap(IDB_SKIN), Dpi()));
   skin_->SetPicture(skin_->Image());
   ApplyInterfaceFont(*this, context_.ConfigFile());
   if (splash_) {
@@ -150,9 +152,18 @@ void AboutWindow::Tile() {
 }
 
 void AboutWindow::OnPaint(HDC) {
-  const float lineLength = static_cast<float>(toolkit::Screen::TwipsToPixelsX(Width()));
-  PaintSkin(*this, context_.pictures.Bitmap(IDB_SKIN), context_.pictures.Bitmap(IDB_LOGO), *logo_,
-            kEtchedLineTop, lineLength, kLogoAt);
+  // PaintSkin scales it with the rest.
+  const float lineLength =
+      static_cast<float>(toolkit::Screen::TwipsToPixels(Width(), platform::kDesignDpi));
+  PaintSkin(*this, context_.pictures.Bitmap(IDB_SKIN), context_.pictures.Bitmap(LogoForDpi(Dpi())),
+            *logo_, kEtchedLineTop, lineLength, kLogoAt);
+}
+
+// The button faces are cut from the skin, which is enlarged for each DPI.
+void AboutWindow::OnDpiChanged() {
+  skin_->SetPicture(SkinForDpi(context_.pictures.Bitmap(IDB_SKIN), Dpi()));
+  skin_->SetPicture(skin_->Image());
+  Tile();
 }
 
 void AboutWindow::OnClick() {

@@ -38,6 +38,7 @@ class AboutWindow : public toolkit::Form {
   void OnPaint(HDC dc) override;
   void OnClick() override;
   void OnMouseMove(const toolkit::MouseEvent& event) override;
+  void OnDpiChanged() override;
 
  private:
   void DisableButtons();

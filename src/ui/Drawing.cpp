@@ -1,9 +1,13 @@
 #include "ui/Drawing.h"
 
+#include <climits>
 #include <cmath>
+#include <cstdlib>
 
+#include "platform/Dpi.h"
 #include "platform/ScopedHandle.h"
 #include "platform/Utf8.h"
+#include "resource_ids.h"
 #include "toolkit/Screen.h"
 
 namespace ui {
@@ -32,11 +36,13 @@ void DrawBevel(toolkit::Element& control, int thickness, int distance, Bevel bev
   switch (parent->Scale()) {
     case toolkit::ScaleMode::kPixels: px = py = 1; break;
     case toolkit::ScaleMode::kTwips:
-      px = toolkit::Screen::TwipsPerPixelX();
-      py = toolkit::Screen::TwipsPerPixelY();
+      px = py = toolkit::Screen::TwipsPerPixel(parent->DrawingDpi());
       break;
     default: return;
   }
+  // A frame of one pixel at 96 dpi is two at 144 and 192.
+  thickness = platform::ScalePixels(thickness, control.Dpi());
+  distance = platform::ScalePixels(distance, control.Dpi());
   toolkit::Canvas* target = onControl ? dynamic_cast<toolkit::Canvas*>(&control) : parent;
   if (!target) return;
 
@@ -47,8 +53,11 @@ void DrawBevel(toolkit::Element& control, int thickness, int distance, Bevel bev
   Edges e = onControl ? Edges{0, 0, width - 1, height - 1}
                       : Edges{left - px, top - py, left + width, top + height};
 
+  // Rings beyond the first go outwards around the control, inwards on it,
+  // where outside would be cut off.
+  const int step = onControl ? -1 : 1;
   for (int i = distance; i < distance + thickness; ++i) {
-    double dx = i * px, dy = i * py;
+    double dx = step * i * px, dy = step * i * py;
     double l = e.left - dx, t = e.top - dy, r = e.right + dx, b = e.bottom + dy;
     if (bevel == Bevel::kSunken) {
       target->DrawLine(l, t, r, t, kShadowColour);
@@ -67,24 +76,30 @@ void DrawBevel(toolkit::Element& control, int thickness, int distance, Bevel bev
 void DrawEtchedLine(toolkit::Canvas& window, float& x1, float& y1, float& x2, float& y2) {
   const int savedWidth = window.DrawWidth();
   const toolkit::ScaleMode savedMode = window.Scale();
-  const int tppX = toolkit::Screen::TwipsPerPixelX();
-  const int tppY = toolkit::Screen::TwipsPerPixelY();
+  const double tpp = toolkit::Screen::TwipsPerPixel(window.DrawingDpi());
   if (savedMode == toolkit::ScaleMode::kPixels) {
-    x1 = std::floor(x1 * tppX);
-    y1 = std::floor(y1 * tppY);
-    x2 = std::floor(x2 * tppX);
-    y2 = std::floor(y2 * tppY);
+    x1 = static_cast<float>(std::floor(x1 * tpp));
+    y1 = static_cast<float>(std::floor(y1 * tpp));
+    x2 = static_cast<float>(std::floor(x2 * tpp));
+    y2 = static_cast<float>(std::floor(y2 * tpp));
   }
   window.SetScaleMode(toolkit::ScaleMode::kTwips);
   window.SetDrawWidth(1);
-  window.DrawLine(x1, y1, x2, y2, kShadowColour);
-  window.DrawLine(x1 + tppX, y1 + tppY, x2 + tppX, y2 + tppY, kHighlightColour);
+  // Each of the two lines is as many pixels thick as the display scale makes
+  // one pixel of the design.
+  const int thickness = platform::ScalePixels(1, window.DrawingDpi());
+  for (int i = 0; i < thickness; ++i) {
+    const double grey = i * tpp, white = (thickness + i) * tpp;
+    window.DrawLine(x1, y1 + grey, x2, y2 + grey, kShadowColour);
+    window.DrawLine(x1 + white, y1 + white, x2 + white, y2 + white, kHighlightColour);
+  }
   window.SetDrawWidth(savedWidth);
   window.SetScaleMode(savedMode);
 }
 
 void DrawCaption(toolkit::PictureBox& surface, const std::string& text, WindowText windowText) {
-  RECT area{0, kCaptionTop, surface.ScaleWidth(), surface.ScaleHeight()};
+  RECT area{0, platform::ScalePixels(kCaptionTop, surface.Dpi()), surface.ScaleWidth(),
+            surface.ScaleHeight()};
   const std::wstring wide = platform::Wide(text);
   ::DrawTextW(surface.hDC(), wide.c_str(), static_cast<int>(wide.size()), &area, kOneCentredLine);
   if (windowText == WindowText::kSet && surface.Hwnd()) {
@@ -164,15 +179,62 @@ void TransparentBlitMasked(HDC dst, int x, int y, int w, int h, HDC src, int sx,
   }
 }
 
+int LogoForDpi(int dpi) {
+  constexpr struct {
+    int dpi;
+    int id;
+  } kLogos[] = {{96, IDB_LOGO},
+                {120, IDB_LOGO_125},
+                {144, IDB_LOGO_150},
+                {168, IDB_LOGO_175},
+                {192, IDB_LOGO_200}};
+  int best = IDB_LOGO, distance = INT_MAX;
+  for (const auto& logo : kLogos) {
+    if (std::abs(logo.dpi - dpi) < distance) {
+      distance = std::abs(logo.dpi - dpi);
+      best = logo.id;
+    }
+  }
+  return best;
+}
+
+platform::Picture SkinForDpi(const platform::Picture& skin, int dpi) {
+  BITMAP info{};
+  if (dpi == platform::kDesignDpi || !skin.Handle() ||
+      !::GetObjectW(skin.Handle(), sizeof info, &info)) {
+    return skin;
+  }
+  const int width = platform::ScalePixels(info.bmWidth, dpi);
+  const int height = platform::ScalePixels(info.bmHeight, dpi);
+  platform::WindowDC screen(nullptr);
+  platform::ScopedBitmap scaled(::CreateCompatibleBitmap(screen.get(), width, height));
+  if (!scaled) return skin;
+  {
+    platform::ScopedMemoryDC source(::CreateCompatibleDC(screen.get()));
+    platform::ScopedMemoryDC target(::CreateCompatibleDC(screen.get()));
+    platform::ScopedSelect selectSource(source.get(), skin.Handle());
+    platform::ScopedSelect selectTarget(target.get(), scaled.get());
+    ::SetStretchBltMode(target.get(), HALFTONE);
+    ::SetBrushOrgEx(target.get(), 0, 0, nullptr);
+    ::StretchBlt(target.get(), 0, 0, width, height, source.get(), 0, 0, info.bmWidth, info.bmHeight,
+                 SRCCOPY);
+  }
+  // From here on the picture owns the bitmap.
+  return platform::Picture::Adopt(platform::Picture::Kind::Bitmap, scaled.release());
+}
+
 void PaintSkin(toolkit::Form& window, const platform::Picture& skin, const platform::Picture& logo,
                toolkit::PictureBox& logoSurface, float lineTop, float lineLength, POINT logoAt) {
-  TileBitmap(window.Hwnd(), static_cast<HBITMAP>(skin.Handle()));
-  float x1 = 0, y1 = lineTop, x2 = lineLength, y2 = lineTop;
+  const platform::Picture tile = SkinForDpi(skin, window.Dpi());
+  TileBitmap(window.Hwnd(), static_cast<HBITMAP>(tile.Handle()));
+  float x1 = 0, y1 = static_cast<float>(window.ScalePixels(static_cast<int>(lineTop)));
+  float x2 = static_cast<float>(window.ScalePixels(static_cast<int>(lineLength))), y2 = y1;
   DrawEtchedLine(window, x1, y1, x2, y2);
   logoSurface.SetAutoSize(true);
   logoSurface.SetPicture(logo);
-  TransparentBlit(window.hDC(), logoAt.x, logoAt.y, logoSurface.ScaleWidth(),
-                  logoSurface.ScaleHeight(), logoSurface.hDC(), 0, 0, kLogoTransparent);
+  TransparentBlit(window.hDC(), window.ScalePixels(logoAt.x), window.ScalePixels(logoAt.y),
+                  logoSurface.ScaleWidth(), logoSurface.ScaleHeight(), logoSurface.hDC(), 0, 0,
+                  kLogoTransparent);
   logoSurface.SetAutoSize(false);
 }
 

@@ -55,10 +55,18 @@ void TransparentBlit(HDC dst, int x, int y, int w, int h, HDC src, int sx, int s
 void TransparentBlitMasked(HDC dst, int x, int y, int w, int h, HDC src, int sx, int sy,
                            COLORREF transparent);
 
+// The logo bitmap drawn for the display scale nearest `dpi`.
+int LogoForDpi(int dpi);
+
+// The skin enlarged for `dpi`, as the whole window is; the same picture at
+// 96 dpi. A soft texture, it stays smooth when enlarged.
+platform::Picture SkinForDpi(const platform::Picture& skin, int dpi);
+
 // The background both skinned windows share: the skin tiled over the client
 // area, an etched line from the left edge at `lineTop`, `lineLength` pixels
-// long, and the logo at `logoAt` with its yellow transparent. The logo goes
-// through `logoSurface`, which takes its size meanwhile.
+// long, and the logo (LogoForDpi) at `logoAt` with its yellow transparent,
+// all given in pixels at 96 dpi and scaled to the window's DPI. The logo
+// goes through `logoSurface`, which takes its size meanwhile.
 void PaintSkin(toolkit::Form& window, const platform::Picture& skin, const platform::Picture& logo,
                toolkit::PictureBox& logoSurface, float lineTop, float lineLength, POINT logoAt);
 

@@ -4,12 +4,14 @@
 
 #include <cstdlib>
 
+#include "platform/Dpi.h"
 #include "platform/FileSystem.h"
 #include "platform/ShellIcon.h"
 #include "platform/Utf8.h"
 #include "resource_ids.h"
 #include "toolkit/MessageLoop.h"
 #include "ui/ControlIds.h"
+#include "ui/Drawing.h"
 #include "ui/InterfaceFont.h"
 #include "ui/ProgramFont.h"
 #include "ui/WindowShape.h"
@@ -40,10 +42,11 @@ constexpr UINT_PTR kFolderTipId = 3;
 // An element's position as the form designer gives it, in twips.
 TwipsRect DesignPosition(const toolkit::Element& element) {
   const RECT pixels = element.Bounds();
-  return TwipsRect{toolkit::Screen::PixelsToTwipsX(pixels.left),
-                   toolkit::Screen::PixelsToTwipsY(pixels.top),
-                   toolkit::Screen::PixelsToTwipsX(pixels.right - pixels.left),
-                   toolkit::Screen::PixelsToTwipsY(pixels.bottom - pixels.top)};
+  const int dpi = element.Dpi();
+  using toolkit::Screen::PixelsToTwips;
+  return TwipsRect{PixelsToTwips(pixels.left, dpi), PixelsToTwips(pixels.top, dpi),
+                   PixelsToTwips(pixels.right - pixels.left, dpi),
+                   PixelsToTwips(pixels.bottom - pixels.top, dpi)};
 }
 
 }  // namespace
@@ -93,7 +96,8 @@ void MainWindow::CreateElements() {
   AddLine(names::kTopLine, {3825, 0}, {3825, 495});
   helpLink_ = &AddLabel(names::kHelpLink, -1, {7785, 720, 735, 285});
   iconList_ = &AddListView(names::kIconList, {3960, 1080, 4575, 4695}, ids::iconList);
-  iconImages_ = &AddImageList(names::kIconImages, 32, 32);
+  const int iconSize = platform::LargeIconSize(Dpi());
+  iconImages_ = &AddImageList(names::kIconImages, iconSize, iconSize);
   browseFace_ = &AddPictureBox(names::kBrowseButton, {720, 5850, 2100, 375}, ids::browseButton);
   applyFace_ = &AddPictureBox(names::kApplyButton, {3915, 5850, 1200, 375}, ids::applyButton);
   statusStrip_ = &AddPictureBox(names::kStatusStrip, {5265, 5850, 2025, 375}, ids::statusStrip);
@@ -151,7 +155,8 @@ void MainWindow::CreateElements() {
 void MainWindow::OnLoad() {
   // Shape, font and shadow come first: without the program's font the
   // window has no shape and the program closes.
-  Move((toolkit::Screen::Width() - Width()) / 2, (toolkit::Screen::Height() - Height()) / 2);
+  Move((toolkit::Screen::Width(Dpi()) - Width()) / 2,
+       (toolkit::Screen::Height(Dpi()) - Height()) / 2);
   if (!InstallProgramFont(*this, context_.programFolder, context_.pictures)) {
     Unload();  // the close sequence ends the program
     return;
@@ -190,16 +195,11 @@ void MainWindow::OnLoad() {
   ::SetWindowTextW(Hwnd(), platform::Wide(context_.Text(IDS_PRODUCT_NAME) + " - " +
                                           context_.Text(IDS_PRODUCT_TAGLINE))
                                .c_str());
-  const std::string aboutTip = context_.Text(IDS_TIP_ABOUT);
-  Tips().SetTip(kDragStripTipId, dragStrip_->Bounds(), aboutTip);
-  Tips().SetTip(kHelpTipId, helpLink_->Bounds(), aboutTip);
-  // The label has room for the start of a long path only; its tip holds all of it.
-  Tips().SetTip(kFolderTipId, PairLabel(names::kCurrentIconLabel, 1).Bounds(),
-                context_.targetFolder);
+  SetLabelTips();
 
   ShowDefaultFolderIcon();
   ShowApplyButton(false);
-  skin_->SetPicture(context_.pictures.Bitmap(IDB_SKIN));
+  skin_->SetPicture(SkinForDpi(context_.pictures.Bitmap(IDB_SKIN), Dpi()));
   skin_->SetPicture(skin_->Image());
 
   KeepTexts();
@@ -265,6 +265,16 @@ void MainWindow::SetToolTips() {
   tips.SetTip(recentBox_->Hwnd(), context_.Text(IDS_TIP_RECENT));
   tips.SetTip(iconList_->Hwnd(), context_.Text(IDS_TIP_ICON_LIST));
   tips.SetTip(browseFace_->Hwnd(), context_.Text(IDS_TIP_BROWSE));
+}
+
+// Labels have no windows: their tips are areas of the form, in pixels.
+void MainWindow::SetLabelTips() {
+  const std::string aboutTip = context_.Text(IDS_TIP_ABOUT);
+  Tips().SetTip(kDragStripTipId, dragStrip_->Bounds(), aboutTip);
+  Tips().SetTip(kHelpTipId, helpLink_->Bounds(), aboutTip);
+  // The label has room for the start of a long path only; its tip holds all of it.
+  Tips().SetTip(kFolderTipId, PairLabel(names::kCurrentIconLabel, 1).Bounds(),
+                context_.targetFolder);
 }
 
 void MainWindow::KeepTexts() {

@@ -60,6 +60,7 @@ class MainWindow : public toolkit::Form {
   void OnMouseDown(const toolkit::MouseEvent& event) override;
   void OnMouseMove(const toolkit::MouseEvent& event) override;
   void OnActivate() override;
+  void OnDpiChanged() override;
 
  private:
   void CreateLabelPair(const std::string& name, const toolkit::TwipsRect& twips);
@@ -69,6 +70,7 @@ class MainWindow : public toolkit::Form {
   void FinishPair(const std::string& name, const toolkit::TwipsRect* frontSize);
   toolkit::Label& PairLabel(const std::string& name, int index) const;
   void SetToolTips();
+  void SetLabelTips();
   void KeepTexts();
   void FillRecentBox();
   void SetIconSpacing();

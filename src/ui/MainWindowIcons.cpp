@@ -8,6 +8,7 @@
 #include "core/DefaultFolderIcon.h"
 #include "core/FolderCustomisation.h"
 #include "platform/CommonDialog.h"
+#include "platform/Dpi.h"
 #include "platform/FileSystem.h"
 #include "platform/IconFile.h"
 #include "platform/MessageBoxes.h"
@@ -95,13 +96,15 @@ void MainWindow::LoadIcons() {
   iconImages_->Reserve(count);
   // The same bitmap every pass: loading it again for each icon cost as much
   // as a fifth of an extraction.
-  const platform::Picture progressBackground = context_.pictures.Bitmap(IDB_SKIN);
+  const platform::Picture progressBackground =
+      SkinForDpi(context_.pictures.Bitmap(IDB_SKIN), Dpi());
+  const int iconSize = platform::LargeIconSize(Dpi());
   HICON icon = nullptr;
   std::int32_t i = 0;
   for (; i <= count; ++i) {
     ShowProgress(i, count, progressBackground);
     platform::ReleaseIcon(icon);
-    icon = file.ExtractLarge(i);
+    icon = file.Extract(i, iconSize);
     if (!icon) break;
     AddIconImage(icon, i);
   }
@@ -119,7 +122,9 @@ void MainWindow::LoadIcons() {
 void MainWindow::SelectIcon(std::optional<int> item) {
   // Without an item every step that needs one fails and is stepped over:
   // no icon is drawn and the position keeps its value.
-  HICON icon = item ? platform::IconFile(browser_.CurrentFile()).ExtractLarge(*item - 1) : nullptr;
+  HICON icon = item ? platform::IconFile(browser_.CurrentFile())
+                          .Extract(*item - 1, platform::LargeIconSize(Dpi()))
+                    : nullptr;
   newIcon_->SetPicture({});
   toolkit::DrawIconInPicture(icon, *newIcon_, 0, 0);
   newIcon_->Refresh();
@@ -218,7 +223,8 @@ void MainWindow::Browse() {
 
 void MainWindow::SetIconSpacing() {
   ::SendMessageW(iconList_->Hwnd(), LVM_SETICONSPACING, 0, kDefaultSpacing);
-  ::SendMessageW(iconList_->Hwnd(), LVM_SETICONSPACING, 0, MAKELPARAM(kIconSpacing, kIconSpacing));
+  const int spacing = ScalePixels(kIconSpacing);
+  ::SendMessageW(iconList_->Hwnd(), LVM_SETICONSPACING, 0, MAKELPARAM(spacing, spacing));
 }
 
 void MainWindow::ShowApplyButton(bool visible) {
@@ -228,10 +234,11 @@ void MainWindow::ShowApplyButton(bool visible) {
 void MainWindow::ShowDefaultFolderIcon() {
   std::optional<core::IconLocation> location = core::DefaultFolderIcon();
   if (!location) return;
-  HICON icon = platform::IconFile(location->file).ExtractLarge(location->index);
+  HICON icon =
+      platform::IconFile(location->file).Extract(location->index, platform::LargeIconSize(Dpi()));
   if (!icon) return;
   defaultIcon_->SetPicture({});
-  ::DrawIcon(defaultIcon_->hDC(), 0, 0, icon);
+  ::DrawIconEx(defaultIcon_->hDC(), 0, 0, icon, 0, 0, 0, nullptr, DI_NORMAL);
   defaultIcon_->SetPicture(defaultIcon_->Image());
   platform::ReleaseIcon(icon);
 }

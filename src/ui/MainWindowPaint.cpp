@@ -1,5 +1,6 @@
 // How the main window looks: its painting and the normal-state repaint of
 // its buttons and status strip.
+#include "platform/Dpi.h"
 #include "resource_ids.h"
 #include "ui/Drawing.h"
 #include "ui/MainWindow.h"
@@ -9,7 +10,6 @@ namespace ui {
 namespace {
 
 constexpr POINT kLogoAt{50, 5};
-constexpr int kScratchSize = 32;
 constexpr float kEtchedLineTop = 42;
 constexpr float kEtchedLineLength = 300;
 
@@ -31,9 +31,11 @@ void MainWindow::Tile() {
 }
 
 void MainWindow::OnPaint(HDC) {
-  PaintSkin(*this, context_.pictures.Bitmap(IDB_SKIN), context_.pictures.Bitmap(IDB_LOGO),
+  PaintSkin(*this, context_.pictures.Bitmap(IDB_SKIN), context_.pictures.Bitmap(LogoForDpi(Dpi())),
             *scratch_, kEtchedLineTop, kEtchedLineLength, kLogoAt);
-  scratch_->Resize(kScratchSize, kScratchSize);
+  // The scratch surface lent itself to the logo; icons are rendered on it.
+  const int iconSize = platform::LargeIconSize(Dpi());
+  scratch_->Resize(iconSize, iconSize);
 
   for (toolkit::Element* framed : std::initializer_list<toolkit::Element*>{
            newIcon_, currentIcon_, defaultIcon_, infoTipBox_, recentBox_, iconList_}) {
@@ -47,6 +49,24 @@ void MainWindow::OnMouseDown(const toolkit::MouseEvent&) {
 }
 
 void MainWindow::OnMouseMove(const toolkit::MouseEvent&) {
+  Tile();
+}
+
+// The elements stand at their places for the new DPI; what is sized in
+// pixels follows: the shape, the skin, and every icon, extracted again at
+// the size the new DPI calls for.
+void MainWindow::OnDpiChanged() {
+  ApplyWindowShape(*this);
+  SetLabelTips();
+  skin_->SetPicture(SkinForDpi(context_.pictures.Bitmap(IDB_SKIN), Dpi()));
+  skin_->SetPicture(skin_->Image());
+  const int iconSize = platform::LargeIconSize(Dpi());
+  iconImages_->SetImageSize(iconSize, iconSize);
+  const int selected = iconList_->SelectedIndex();
+  ShowDefaultFolderIcon();
+  SetIconSpacing();
+  LoadIcons();
+  if (selected > 0) SelectIcon(selected);
   Tile();
 }
 

@@ -60,8 +60,8 @@ void ShadowWindow::Follow() {
   const int left = mainWindow_.Left() + kOffsetTwips;
   const int top = mainWindow_.Top() + kOffsetTwips;
   if (left == Left() && top == Top() && RightBeneath()) return;
-  ::SetWindowPos(Hwnd(), mainWindow_.Hwnd(), toolkit::Screen::TwipsToPixelsX(left),
-                 toolkit::Screen::TwipsToPixelsY(top), 0, 0, SWP_NOSIZE | SWP_NOACTIVATE);
+  ::SetWindowPos(Hwnd(), mainWindow_.Hwnd(), ToPixels(left), ToPixels(top), 0, 0,
+                 SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
 }  // namespace ui

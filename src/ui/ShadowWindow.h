@@ -22,6 +22,7 @@ class ShadowWindow : public toolkit::Form {
   void CreateElements() override;
   void OnLoad() override;
   void OnMouseDown(const toolkit::MouseEvent& event) override;
+  void OnDpiChanged() override { OnLoad(); }
 
  private:
   // Whether the next window shown below the main window is the shadow.

@@ -38,10 +38,9 @@ HRGN ApplyWindowShape(toolkit::Form& window) {
 }
 
 void ZoomWindow(toolkit::Form& window, bool closing, const RECT& startRect) {
-  RECT own{toolkit::Screen::TwipsToPixelsX(window.Left()),
-           toolkit::Screen::TwipsToPixelsY(window.Top()),
-           toolkit::Screen::TwipsToPixelsX(window.Left() + window.Width()),
-           toolkit::Screen::TwipsToPixelsY(window.Top() + window.Height())};
+  RECT own{window.ToPixels(window.Left()), window.ToPixels(window.Top()),
+           window.ToPixels(window.Left() + window.Width()),
+           window.ToPixels(window.Top() + window.Height())};
   const RECT& from = closing ? own : startRect;
   const RECT& to = closing ? startRect : own;
   ::DrawAnimatedRects(window.Hwnd(), IDANI_CAPTION, &from, &to);

@@ -19,6 +19,8 @@
 
 namespace {
 
+constexpr int kIconSize = 32;  // the large icons at 96 dpi
+
 using testing_support::ReadWholeFile;
 using testing_support::TestFolder;
 using testing_support::WriteWholeFile;
@@ -117,7 +119,7 @@ HostileCase RecentFile(std::string name, Make make, std::string expected, bool w
 HostileCase IconSource(std::string name, std::string file, Make make, int count) {
   auto routine = [](const std::string&, const std::string& path) {
     const platform::IconFile icons(path);
-    HICON first = icons.ExtractLarge(0), beyond = icons.ExtractLarge(65534);
+    HICON first = icons.Extract(0, kIconSize), beyond = icons.Extract(65534, kIconSize);
     const std::string outcome = "count " + std::to_string(icons.Count()) +
                                 (first ? "; first icon" : "") + (beyond ? "; beyond" : "");
     platform::ReleaseIcon(first);

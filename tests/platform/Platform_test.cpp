@@ -13,6 +13,8 @@
 
 namespace {
 
+constexpr int kIconSize = 32;  // the large icons at 96 dpi
+
 using testing_support::ReadWholeFile;
 using testing_support::ScratchFolder;
 using testing_support::TestFolder;
@@ -96,14 +98,14 @@ TEST(IconFile, CountsAndExtractsWhatTheFileHolds) {
   for (const Row& row : rows) {
     const platform::IconFile icons(row.file[0] ? TestFolder() + row.file : "");
     EXPECT_EQ(icons.Count(), row.count) << row.file;
-    HICON last = icons.ExtractLarge(row.count - 1);
-    HICON beyond = icons.ExtractLarge(row.count);
+    HICON last = icons.Extract(row.count - 1, kIconSize);
+    HICON beyond = icons.Extract(row.count, kIconSize);
     EXPECT_EQ(last != nullptr, row.count > 0) << row.file;
     EXPECT_EQ(beyond, nullptr) << row.file;
     platform::ReleaseIcon(last);
   }
   // The numbered libraries put the icon's position in its centre pixel.
-  HICON icon = platform::IconFile(TestFolder() + "ICONS120.DLL").ExtractLarge(77);
+  HICON icon = platform::IconFile(TestFolder() + "ICONS120.DLL").Extract(77, kIconSize);
   ICONINFO info{};
   ASSERT_TRUE(::GetIconInfo(icon, &info));
   int width = 0;

@@ -19,6 +19,7 @@ ELEMENTS = [(3, 0, 253, 37), (41, 51, 249, 83), (8, 174, 252, 190), (519, 48, 56
             (48, 390, 188, 415), (492, 390, 572, 415), (8, 50, 42, 162), (7, 194, 256, 329),
             (263, 71, 570, 386), (350, 389, 487, 416)]
 THREE_SIZES = [(16, 16, 32), (32, 32, 32), (48, 48, 32)]
+FOLDER_SIZES = [(n, n, 32) for n in (16, 32, 40, 48, 64)]
 TMP = tempfile.TemporaryDirectory()  # removed when the run ends
 
 
@@ -66,12 +67,14 @@ class Outline(BasePen):
 class GeneratorsTest(unittest.TestCase):
     def test_art_is_reproducible_and_keyed_cleanly(self):
         a = build(self, "make_art.py", "art")
-        with Image.open(os.path.join(a, "logo.bmp")) as image:
-            logo = image.convert("RGB")
-        # Near-yellow pixels would show as a fringe around the transparent key.
-        fringe = [p for p in logo.getdata() if p != (255, 255, 0)
-                  and max(abs(c - k) for c, k in zip(p, (255, 255, 0))) <= 40]
-        self.assertEqual(fringe, [])
+        for name, width in (("logo", 200), ("logo150", 300), ("logo200", 400)):
+            with Image.open(os.path.join(a, name + ".bmp")) as image:
+                logo = image.convert("RGB")
+            self.assertEqual(logo.width, width)
+            # Near-yellow pixels would show as a fringe around the transparent key.
+            fringe = [p for p in logo.getdata() if p != (255, 255, 0)
+                      and max(abs(c - k) for c, k in zip(p, (255, 255, 0))) <= 40]
+            self.assertEqual(fringe, [], name)
         self.assertEqual(ico_images(os.path.join(a, "morvane.ico")), THREE_SIZES)
 
     def test_font_is_found_by_wine_and_shapes_the_window_around_every_element(self):
@@ -98,7 +101,7 @@ class GeneratorsTest(unittest.TestCase):
         self.assertGreaterEqual(len(listed), 24)
         larges = set()
         for name in listed:
-            self.assertEqual(ico_images(os.path.join(a, name)), THREE_SIZES, name)
+            self.assertEqual(ico_images(os.path.join(a, name)), FOLDER_SIZES, name)
             with Image.open(os.path.join(a, name)) as icon:
                 icon.size = (32, 32)
                 large = icon.convert("RGBA")

@@ -108,6 +108,21 @@ TEST_F(ToolkitTest, ImageListsKeepCopiesAndListsFilledInABatchAreShown) {
       << "redrawing came back on after the batch";
 }
 
+// Moved to a monitor of 192 dpi, the form stands where the system says and
+// its elements and fonts are twice their size.
+TEST_F(ToolkitTest, ANewDpiPlacesTheFormAndItsElementsForIt) {
+  RECT suggested{10, 20, 810, 620}, window{};
+  ::SendMessageW(form_.Hwnd(), WM_DPICHANGED, MAKEWPARAM(192, 192),
+                 reinterpret_cast<LPARAM>(&suggested));
+  ::GetWindowRect(form_.Hwnd(), &window);
+  EXPECT_TRUE(::EqualRect(&window, &suggested));
+  EXPECT_EQ(form_.box->ScaleWidth(), 64) << "480 twips";
+  EXPECT_EQ(form_.list->Bounds().left, 440) << "3300 twips";
+  LOGFONTW font{};
+  ::GetObjectW(form_.box->Font(), sizeof font, &font);
+  EXPECT_EQ(font.lfHeight, -21) << "8 points";
+}
+
 // A quick second press arrives as a double-click: without a double-click of
 // its own, an element takes it as the press it is.
 TEST_F(ToolkitTest, ASecondQuickPressIsAPressToo) {

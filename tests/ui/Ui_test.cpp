@@ -72,6 +72,10 @@ TEST_F(DrawingTest, RaisedAndSunkenFramesOnTheControlItself) {
   canvas_.face->Cls();
   ui::DrawBevel(*canvas_.face, 1, 0, ui::Bevel::kSunken, true);
   EXPECT_EQ(FaceRows(), "gggggggggw\ng........w\ng........w\ng........w\ng........w\nwwwwwwwwww\n");
+  canvas_.face->SetDpi(2 * USER_DEFAULT_SCREEN_DPI);  // two rings, the second inside
+  canvas_.face->Cls();
+  ui::DrawBevel(*canvas_.face, 1, 0, ui::Bevel::kRaised, true);
+  EXPECT_EQ(FaceRows(), "wwwwwwwwww\nwwwwwwwwwg\nww......gg\nww......gg\nwwgggggggg\nwggggggggg\n");
 }
 
 TEST_F(DrawingTest, EtchedLinesDrawInTwipsAndConvertTheCallersPixels) {
