@@ -100,9 +100,9 @@ TEST(Splash, StandsOverTheMainWindowButNotOverOtherPrograms) {
     return splash && shadow && run.main;
   }));
   EXPECT_FALSE(::GetWindowLongPtrA(splash, GWL_EXSTYLE) & WS_EX_TOPMOST);
-  // The main window shows on top and puts the splash back over it at once.
-  EXPECT_TRUE(WaitUntil([&] { return Above(splash, run.main); }, 5s));
-  EXPECT_TRUE(Above(run.main, shadow));
+  // The main window shows on top and puts itself and its shadow back under
+  // the splash at once, one after the other.
+  EXPECT_TRUE(WaitUntil([&] { return Above(splash, run.main) && Above(run.main, shadow); }, 5s));
   EXPECT_TRUE(WaitUntil([&] { return run.IconCount() == 1234 && !::IsWindow(splash); }));
   EXPECT_TRUE(run.Close());
 }
