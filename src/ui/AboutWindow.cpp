@@ -101,7 +101,32 @@ void AboutWindow::OnLoad() {
   okCaption_ = context_.Text(IDS_ABOUT_OK);
   settingsCaption_ = context_.Text(IDS_ABOUT_SETTINGS);
   text_->SetText(InformationText());
+  DescribeElements();
   Tile();
+}
+
+// Screen readers call the information text and the window by the text's
+// first line, the program's name and version.
+void AboutWindow::DescribeElements() {
+  auto title = [this] {
+    return context_.Text(IDS_PRODUCT_NAME) + " " + context_.Text(IDS_ABOUT_VERSION);
+  };
+  text_->SetAccessibility({ROLE_SYSTEM_TEXT,
+                           title,
+                           [this] { return text_->Text(); },
+                           nullptr,
+                           [] { return STATE_SYSTEM_READONLY; },
+                           {}});
+  SetAccessibility({ROLE_SYSTEM_DIALOG, title, nullptr, nullptr, nullptr, {}});
+  const std::initializer_list<std::pair<toolkit::PictureBox*, const std::string*>> buttons = {
+      {updatesFace_, &updatesCaption_},
+      {webPageFace_, &webPageCaption_},
+      {helpFace_, &helpCaption_},
+      {okFace_, &okCaption_}};
+  for (const auto& [face, caption] : buttons) {
+    face->SetAccessibility(
+        {ROLE_SYSTEM_PUSHBUTTON, [caption] { return *caption; }, nullptr, nullptr, nullptr, {}});
+  }
 }
 
 std::string AboutWindow::InformationText() const {
@@ -161,6 +186,13 @@ void AboutWindow::OnClick() {
 
 void AboutWindow::OnMouseMove(const toolkit::MouseEvent&) {
   Tile();
+}
+
+// Esc closes the window as OK does.
+bool AboutWindow::OnKeyDown(int virtualKey) {
+  if (virtualKey != VK_ESCAPE) return false;
+  okButton_->Press();
+  return true;
 }
 
 void AboutWindow::OnUnload() {

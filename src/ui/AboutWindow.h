@@ -38,9 +38,11 @@ class AboutWindow : public toolkit::Form {
   void OnPaint(HDC dc) override;
   void OnClick() override;
   void OnMouseMove(const toolkit::MouseEvent& event) override;
+  bool OnKeyDown(int virtualKey) override;
 
  private:
   void DisableButtons();
+  void DescribeElements();
   std::string InformationText() const;
 
   const WindowContext& context_;

@@ -72,6 +72,7 @@ void MainWindow::LoadIcons() {
   wait.SetPointer(toolkit::kPointerHourglass);
 
   browser_.SetLoading(true);
+  AnnounceIconList();
   toolkit::DoEvents();
 
   iconList_->SetIcons(nullptr);
@@ -89,6 +90,7 @@ void MainWindow::LoadIcons() {
     toolkit::TryProperty([&] { iconList_->AddItem("a1", "", 1); });
     browser_.SetEmpty(true);
     browser_.SetLoading(false);
+    AnnounceIconList();
     return;
   }
 
@@ -114,6 +116,7 @@ void MainWindow::LoadIcons() {
 
   iconList_->SetIcons(iconImages_);
   ListIcons(count);
+  AnnounceIconList();
 }
 
 void MainWindow::SelectIcon(std::optional<int> item) {
