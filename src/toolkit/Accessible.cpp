@@ -165,7 +165,12 @@ class AccessibleObject : public IAccessible {
     hit->lVal = CHILDID_SELF;
     return S_OK;
   }
-  HRESULT STDMETHODCALLTYPE accDoDefaultAction(VARIANT) override { return DISP_E_MEMBERNOTFOUND; }
+  HRESULT STDMETHODCALLTYPE accDoDefaultAction(VARIANT child) override {
+    const auto element = Element(child);
+    if (!element) return Failure(child);
+    if (!element->defaultAction) return DISP_E_MEMBERNOTFOUND;
+    return ::PostMessageW(window_, DefaultActionMessage(), 0, 0) ? S_OK : E_FAIL;
+  }
   HRESULT STDMETHODCALLTYPE put_accName(VARIANT, BSTR) override { return E_NOTIMPL; }
   HRESULT STDMETHODCALLTYPE put_accValue(VARIANT, BSTR) override { return E_NOTIMPL; }
 
@@ -211,6 +216,11 @@ LRESULT AccessibleObjectResult(HWND window, WPARAM wParam, LPARAM lParam,
   const LRESULT result = ::LresultFromObject(__uuidof(IAccessible), wParam, object);
   object->Release();
   return result < 0 ? 0 : result;
+}
+
+UINT DefaultActionMessage() {
+  static const UINT message = ::RegisterWindowMessageW(L"Morvane.DefaultAction");
+  return message;
 }
 
 void AnnounceChange(HWND window, DWORD event) {

@@ -19,12 +19,15 @@ struct Accessibility {
   LONG role = ROLE_SYSTEM_CLIENT;
   // Asked again at each request, so that a name follows the language and
   // what the window shows now.
-  std::function<std::string()> name;
-  std::function<std::string()> value;
-  std::function<std::string()> description;
+  std::function<std::string()> name = {};
+  std::function<std::string()> value = {};
+  std::function<std::string()> description = {};
   // Added to what the window itself tells (focus, visibility, enabling).
-  std::function<LONG()> extraState;
-  std::string keyboardShortcut;
+  std::function<LONG()> extraState = {};
+  std::string keyboardShortcut = {};
+  // What a press through the object does (a button's click); none for an
+  // element that has no action.
+  std::function<void()> defaultAction = {};
 };
 
 // The answer to WM_GETOBJECT of `window` for `accessibility`; 0 (for the
@@ -33,6 +36,11 @@ struct Accessibility {
 // answers for the element only while the element lives.
 LRESULT AccessibleObjectResult(HWND window, WPARAM wParam, LPARAM lParam,
                                const std::shared_ptr<const Accessibility>& accessibility);
+
+// The message an element's window gets when a client asks for its default
+// action: the client's call returns at once, as for the system's buttons,
+// and the action runs from the window's own messages.
+UINT DefaultActionMessage();
 
 // Tells screen readers that the element of `window` changed (an
 // EVENT_OBJECT_... event).

@@ -72,6 +72,10 @@ class Element {
   LRESULT AccessibleObject(WPARAM wParam, LPARAM lParam) const {
     return AccessibleObjectResult(window_, wParam, lParam, accessibility_);
   }
+  // On DefaultActionMessage().
+  void DoDefaultAction() const {
+    if (accessibility_ && accessibility_->defaultAction) accessibility_->defaultAction();
+  }
 
  private:
   void RequireFont() const;

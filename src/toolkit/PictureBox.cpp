@@ -237,6 +237,10 @@ void PictureBox::OnMouseMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 LRESULT PictureBox::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == DefaultActionMessage()) {
+    DoDefaultAction();
+    return 0;
+  }
   switch (message) {
     case WM_PAINT: OnPaint(); return 0;
     case WM_ERASEBKGND: return 1;

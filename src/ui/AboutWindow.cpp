@@ -111,21 +111,20 @@ void AboutWindow::DescribeElements() {
   auto title = [this] {
     return context_.Text(IDS_PRODUCT_NAME) + " " + context_.Text(IDS_ABOUT_VERSION);
   };
-  text_->SetAccessibility({ROLE_SYSTEM_TEXT,
-                           title,
-                           [this] { return text_->Text(); },
-                           nullptr,
-                           [] { return STATE_SYSTEM_READONLY; },
-                           {}});
-  SetAccessibility({ROLE_SYSTEM_DIALOG, title, nullptr, nullptr, nullptr, {}});
-  const std::initializer_list<std::pair<toolkit::PictureBox*, const std::string*>> buttons = {
-      {updatesFace_, &updatesCaption_},
-      {webPageFace_, &webPageCaption_},
-      {helpFace_, &helpCaption_},
-      {okFace_, &okCaption_}};
-  for (const auto& [face, caption] : buttons) {
-    face->SetAccessibility(
-        {ROLE_SYSTEM_PUSHBUTTON, [caption] { return *caption; }, nullptr, nullptr, nullptr, {}});
+  text_->SetAccessibility({.role = ROLE_SYSTEM_TEXT,
+                           .name = title,
+                           .value = [this] { return text_->Text(); },
+                           .extraState = [] { return STATE_SYSTEM_READONLY; }});
+  SetAccessibility({.role = ROLE_SYSTEM_DIALOG, .name = title});
+  const std::initializer_list<std::pair<SkinnedButton*, const std::string*>> buttons = {
+      {updatesButton_.get(), &updatesCaption_},
+      {webPageButton_.get(), &webPageCaption_},
+      {helpButton_.get(), &helpCaption_},
+      {okButton_.get(), &okCaption_}};
+  for (const auto& [button, caption] : buttons) {
+    button->Face().SetAccessibility({.role = ROLE_SYSTEM_PUSHBUTTON,
+                                     .name = [caption] { return *caption; },
+                                     .defaultAction = [button] { button->Press(); }});
   }
 }
 

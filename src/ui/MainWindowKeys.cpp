@@ -72,38 +72,30 @@ void MainWindow::DescribeElements() {
   };
   auto text = [this](int id) { return [this, id] { return context_.Text(id); }; };
   auto graphic = [&](toolkit::PictureBox& picture, const char* pair, int tip) {
-    picture.SetAccessibility({ROLE_SYSTEM_GRAPHIC, labelOf(pair), nullptr, text(tip), nullptr, {}});
+    picture.SetAccessibility(
+        {.role = ROLE_SYSTEM_GRAPHIC, .name = labelOf(pair), .description = text(tip)});
   };
   graphic(*currentIcon_, names::kCurrentIconLabel, IDS_TIP_CURRENT_ICON);
   graphic(*newIcon_, names::kNewIconLabel, IDS_TIP_NEW_ICON);
   graphic(*defaultIcon_, names::kDefaultIconLabel, IDS_TIP_DEFAULT_ICON);
-  infoTipBox_->SetAccessibility({ROLE_SYSTEM_TEXT,
-                                 labelOf(names::kInfoTipLabel),
-                                 [this] { return infoTipBox_->Text(); },
-                                 text(IDS_TIP_INFOTIP),
-                                 nullptr,
-                                 {}});
-  recentBox_->SetAccessibility({ROLE_SYSTEM_COMBOBOX,
-                                labelOf(names::kRecentLabel),
-                                [this] { return recentBox_->Text(); },
-                                text(IDS_TIP_RECENT),
-                                nullptr,
-                                {}});
-  iconList_->SetAccessibility({ROLE_SYSTEM_LIST,
-                               [this] {
-                                 return context_.Text(IDS_ICON_LIST_NAME) + " " +
-                                        FileName(browser_.CurrentFile());
-                               },
-                               nullptr,
-                               text(IDS_TIP_ICON_LIST),
-                               [this] { return browser_.Loading() ? STATE_SYSTEM_BUSY : 0; },
-                               {}});
-  statusStrip_->SetAccessibility({ROLE_SYSTEM_STATUSBAR,
-                                  [this] { return WindowText(statusStrip_->Hwnd()); },
-                                  nullptr,
-                                  nullptr,
-                                  nullptr,
-                                  {}});
+  infoTipBox_->SetAccessibility({.role = ROLE_SYSTEM_TEXT,
+                                 .name = labelOf(names::kInfoTipLabel),
+                                 .value = [this] { return infoTipBox_->Text(); },
+                                 .description = text(IDS_TIP_INFOTIP)});
+  recentBox_->SetAccessibility({.role = ROLE_SYSTEM_COMBOBOX,
+                                .name = labelOf(names::kRecentLabel),
+                                .value = [this] { return recentBox_->Text(); },
+                                .description = text(IDS_TIP_RECENT)});
+  iconList_->SetAccessibility(
+      {.role = ROLE_SYSTEM_LIST,
+       .name =
+           [this] {
+             return context_.Text(IDS_ICON_LIST_NAME) + " " + FileName(browser_.CurrentFile());
+           },
+       .description = text(IDS_TIP_ICON_LIST),
+       .extraState = [this] { return browser_.Loading() ? STATE_SYSTEM_BUSY : 0; }});
+  statusStrip_->SetAccessibility(
+      {.role = ROLE_SYSTEM_STATUSBAR, .name = [this] { return WindowText(statusStrip_->Hwnd()); }});
   const struct {
     SkinnedButton& button;
     int caption, key, tip;
@@ -112,13 +104,15 @@ void MainWindow::DescribeElements() {
                  {*exitButton_, IDS_EXIT_BUTTON, IDS_EXIT_KEY, 0}};
   accessKeys_.clear();
   for (const auto& each : buttons) {
-    each.button.Face().SetAccessibility(
-        {ROLE_SYSTEM_PUSHBUTTON, text(each.caption), nullptr,
-         each.tip ? std::function<std::string()>(text(each.tip)) : nullptr, nullptr,
-         AccessKeyOf(each.button, each.key)});
+    SkinnedButton& button = each.button;
+    button.Face().SetAccessibility(
+        {.role = ROLE_SYSTEM_PUSHBUTTON,
+         .name = text(each.caption),
+         .description = each.tip ? std::function<std::string()>(text(each.tip)) : nullptr,
+         .keyboardShortcut = AccessKeyOf(button, each.key),
+         .defaultAction = [&button] { button.Press(); }});
   }
-  SetAccessibility(
-      {ROLE_SYSTEM_CLIENT, [this] { return WindowText(Hwnd()); }, nullptr, nullptr, nullptr, {}});
+  SetAccessibility({.role = ROLE_SYSTEM_CLIENT, .name = [this] { return WindowText(Hwnd()); }});
 }
 
 void MainWindow::AnnounceIconList() const {
