@@ -8,6 +8,8 @@
 
 #include <oleacc.h>
 
+#include <algorithm>
+
 #include "resource_ids.h"
 
 namespace {
@@ -20,15 +22,26 @@ struct Seen {
   std::string shortcut;
 };
 
-Seen Ask(HWND element) {
-  const LRESULT answer = ::SendMessageW(element, WM_GETOBJECT, 0, OBJID_CLIENT);
-  IAccessible* object = nullptr;
-  if (answer <= 0 || FAILED(::ObjectFromLresult(answer, __uuidof(IAccessible), 0,
-                                                reinterpret_cast<void**>(&object))))
-    return {};
-  VARIANT self{}, role{};
+VARIANT Self() {
+  VARIANT self{};
   self.vt = VT_I4;
   self.lVal = CHILDID_SELF;
+  return self;
+}
+
+// The caller releases it.
+IAccessible* ObjectOf(HWND element) {
+  const LRESULT answer = ::SendMessageW(element, WM_GETOBJECT, 0, OBJID_CLIENT);
+  IAccessible* object = nullptr;
+  if (answer > 0)
+    ::ObjectFromLresult(answer, __uuidof(IAccessible), 0, reinterpret_cast<void**>(&object));
+  return object;
+}
+
+Seen Ask(HWND element) {
+  IAccessible* object = ObjectOf(element);
+  if (!object) return {};
+  VARIANT self = Self(), role{};
   BSTR name = nullptr, shortcut = nullptr;
   object->get_accName(self, &name);
   object->get_accRole(self, &role);
@@ -38,6 +51,12 @@ Seen Ask(HWND element) {
   ::SysFreeString(shortcut);
   object->Release();
   return seen;
+}
+
+std::vector<std::pair<HWND, DWORD>> heard;
+
+void CALLBACK Hear(HWINEVENTHOOK, DWORD event, HWND window, LONG object, LONG child, DWORD, DWORD) {
+  if (object == OBJID_CLIENT && child == CHILDID_SELF) heard.emplace_back(window, event);
 }
 
 TEST(ScreenReaders, EveryElementHasANameInTheUsersLanguageAndItsRole) {
@@ -86,9 +105,42 @@ TEST(ScreenReaders, EveryElementHasANameInTheUsersLanguageAndItsRole) {
     PressKey(VK_ESCAPE);
     ASSERT_TRUE(WaitUntil([&] { return !::IsWindowVisible(about); }));
     ASSERT_TRUE(WaitUntil([&] { return ::GetAncestor(FocusWindow(), GA_ROOT) == run.main; }));
-    PressKey(text(IDS_EXIT_KEY)[0], VK_MENU);
-    EXPECT_TRUE(run.Ended()) << "the exit button's access key";
+    if (language == "LANG_ESP.DLL") {
+      PressKey(text(IDS_EXIT_KEY)[0], VK_MENU);
+    } else if (IAccessible* exit = ObjectOf(run.Element(ids::kExit))) {
+      EXPECT_EQ(exit->accDoDefaultAction(Self()), S_OK);
+      exit->Release();
+    }
+    EXPECT_TRUE(run.Ended()) << "the exit button's access key, or a press by automation";
   }
+  ::CoUninitialize();
+}
+
+// Hooked as a screen reader hooks, from outside the program's process.
+TEST(ScreenReaders, HearOfIconsLoadedAndOfTheStatusText) {
+  ::CoInitialize(nullptr);
+  ProgramRun run;
+  WriteFile(run.File("ARA.INI"), "[Recent]\r\nARA01=" + TestFolder() + "ICONS2.DLL\r\n");
+  ASSERT_TRUE(run.Open());
+  HWINEVENTHOOK hook = ::SetWinEventHook(EVENT_OBJECT_STATECHANGE, EVENT_OBJECT_NAMECHANGE, nullptr,
+                                         Hear, 0, 0, WINEVENT_OUTOFCONTEXT);
+  heard.clear();
+  ASSERT_TRUE(ChooseFirstRecentFile(run));
+  HWND list = run.Element(ids::kIconList), status = run.Element(ids::kStatus);
+  auto heardOf = [](HWND window, DWORD event) {
+    return std::find(heard.begin(), heard.end(), std::pair(window, event)) != heard.end();
+  };
+  EXPECT_TRUE(WaitUntil([&] {
+    for (MSG message; ::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE);)
+      ::DispatchMessageW(&message);
+    return heardOf(list, EVENT_OBJECT_STATECHANGE) && heardOf(list, EVENT_OBJECT_NAMECHANGE) &&
+           heardOf(status, EVENT_OBJECT_NAMECHANGE);
+  }));
+  ::UnhookWinEvent(hook);
+  const std::string listName = LibraryString(run.File("LANG_ENG.DLL"), IDS_ICON_LIST_NAME);
+  EXPECT_STRCASEEQ(Ask(list).name.c_str(), (listName + " ICONS2.DLL").c_str());
+  EXPECT_EQ(Ask(status).name, Text(status));
+  EXPECT_TRUE(run.Close());
   ::CoUninitialize();
 }
 
