@@ -33,6 +33,10 @@
 #define IDS_STATUS_ICON_COUNT 1026  // preceded by "count "
 #define IDS_DEFAULT_ICON_LABEL 1027
 #define IDS_REMOVE_PROMPT 1029
+#define IDS_BROWSE_KEY 1030          // access keys with Alt: the first letter counts
+#define IDS_APPLY_KEY 1031
+#define IDS_EXIT_KEY 1032
+#define IDS_ICON_LIST_NAME 1033      // followed by " " and the icon file's name
 #define IDS_TIP_ABOUT 1107
 #define IDS_LOW_DEPTH_NOTICE 1110
 #define IDS_LOW_DEPTH_QUESTION 1111

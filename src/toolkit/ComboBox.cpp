@@ -49,6 +49,10 @@ std::string ComboBox::Text() const {
   return platform::Utf8(text);
 }
 
+bool ComboBox::DroppedDown() const {
+  return ::SendMessageW(Hwnd(), CB_GETDROPPEDSTATE, 0, 0) != FALSE;
+}
+
 void ComboBox::OnCommand(WORD code) {
   if (code == CBN_SELCHANGE && onClick) onClick();
 }

@@ -23,6 +23,8 @@ class ComboBox : public Control {
   void SetListIndex(int index);
   // The selected line's text, "" when none is selected.
   std::string Text() const;
+  // Whether its list is open.
+  bool DroppedDown() const;
 
   std::function<void()> onClick;
   // A character typed, as the box receives it (UTF-16).

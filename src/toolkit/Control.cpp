@@ -45,6 +45,9 @@ LRESULT CALLBACK Control::Subclass(HWND window, UINT message, WPARAM wParam, LPA
   try {
     LRESULT result = 0;
     if (control->PreviewMessage(message, wParam, lParam, result)) return result;
+    if (message == WM_GETOBJECT) {
+      if (LRESULT object = control->AccessibleObject(wParam, lParam)) return object;
+    }
     if (IsMouseMessage(message)) {
       RaiseMouseEvent(control->mouse, message,
                       {ButtonOf(message, wParam), GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)},

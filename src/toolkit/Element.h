@@ -6,11 +6,13 @@
 
 #include <windows.h>
 
+#include <memory>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "platform/ScopedHandle.h"
+#include "toolkit/Accessible.h"
 
 namespace toolkit {
 
@@ -63,10 +65,24 @@ class Element {
   Canvas* Parent() const { return parent_; }
   void SetParent(Canvas* parent) { parent_ = parent; }
 
+  // What screen readers learn of the element; an element without a name
+  // leaves WM_GETOBJECT to the system.
+  void SetAccessibility(Accessibility accessibility) {
+    accessibility_ = std::make_shared<const Accessibility>(std::move(accessibility));
+  }
+
  protected:
   // The element's own window, if it has one, gets the font with WM_SETFONT.
   void AttachWindow(HWND window);
   virtual void OnFontChanged() {}
+  // The answer to WM_GETOBJECT, 0 for the default handling.
+  LRESULT AccessibleObject(WPARAM wParam, LPARAM lParam) const {
+    return AccessibleObjectResult(window_, wParam, lParam, accessibility_);
+  }
+  // On DefaultActionMessage().
+  void DoDefaultAction() const {
+    if (accessibility_ && accessibility_->defaultAction) accessibility_->defaultAction();
+  }
 
  private:
   void RequireFont() const;
@@ -82,6 +98,7 @@ class Element {
   HWND window_ = nullptr;
   int dpi_;
   Canvas* parent_ = nullptr;
+  std::shared_ptr<const Accessibility> accessibility_;
 };
 
 // Runs one property assignment the way every set-up of this program does: an

@@ -4,12 +4,15 @@
 #include <windowsx.h>
 
 #include "platform/Dpi.h"
+#include "toolkit/MessageLoop.h"
 #include "toolkit/Screen.h"
 
 namespace toolkit {
 namespace {
 
 constexpr char kFormClass[] = "MorvaneForm";
+// The context bit of a key message: Alt was held.
+constexpr LPARAM kAltHeld = LPARAM{1} << 29;
 
 bool Contains(const RECT& area, POINT point) {
   return ::PtInRect(&area, point) != FALSE;
@@ -99,6 +102,7 @@ void Form::ShowModal() {
       },
       reinterpret_cast<LPARAM>(&disabled));
   for (HWND window : disabled) ::EnableWindow(window, FALSE);
+  HWND previouslyActive = ::GetActiveWindow();
   Show();
 
   MSG message;
@@ -108,11 +112,15 @@ void Form::ShowModal() {
       if (got == 0) ::PostQuitMessage(static_cast<int>(message.wParam));
       break;
     }
-    ::TranslateMessage(&message);
-    ::DispatchMessageW(&message);
+    Dispatch(message);
   }
   for (HWND window : disabled) {
     if (::IsWindow(window)) ::EnableWindow(window, TRUE);
+  }
+  // As after a dialog, the keys go back to the window they left; the system
+  // finds none to activate while they are all disabled.
+  if (::IsWindow(previouslyActive) && ::IsWindowVisible(previouslyActive)) {
+    ::SetForegroundWindow(previouslyActive);
   }
 }
 
@@ -329,14 +337,20 @@ void Form::OnMouseMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 // The element that had the keyboard focus gets it back when the form is
-// active again, after a message box for instance, as in a dialog.
+// active again, after a message box for instance, as in a dialog. Without
+// one the form itself takes the keys, as the default handling would have it:
+// with no focus at all, Wine gives a window no keys.
 void Form::OnActivateMessage(WORD state) {
   if (state == WA_INACTIVE) {
     HWND focus = ::GetFocus();
     if (focus && ::IsChild(Hwnd(), focus)) focusToRestore_ = focus;
     return;
   }
-  if (focusToRestore_ && ::IsChild(Hwnd(), focusToRestore_)) ::SetFocus(focusToRestore_);
+  if (focusToRestore_ && ::IsChild(Hwnd(), focusToRestore_)) {
+    ::SetFocus(focusToRestore_);
+  } else if (!::GetFocus()) {
+    ::SetFocus(Hwnd());
+  }
   OnActivate();
 }
 
@@ -348,6 +362,39 @@ void Form::OnDpiChangedMessage(int dpi, const RECT& suggested) {
                  suggested.bottom - suggested.top, SWP_NOZORDER | SWP_NOACTIVATE);
   OnDpiChanged();
   ::InvalidateRect(Hwnd(), nullptr, TRUE);
+}
+
+// An open drop-down list keeps every key: Esc and Enter close it.
+bool Form::PreviewKey(const MSG& key) {
+  auto* box = dynamic_cast<ComboBox*>(ControlOf(::GetFocus()));
+  if (box && box->DroppedDown()) return false;
+  const bool alt = (key.lParam & kAltHeld) != 0;
+  if (key.message == WM_SYSCHAR) return alt && OnAccessKey(static_cast<wchar_t>(key.wParam));
+  if (key.message != WM_KEYDOWN && key.message != WM_SYSKEYDOWN) return false;
+  if (alt || ::GetKeyState(VK_CONTROL) < 0) return false;
+  if (key.wParam == VK_TAB) {
+    MoveFocus(::GetKeyState(VK_SHIFT) < 0);
+    return true;
+  }
+  return OnKeyDown(static_cast<int>(key.wParam));
+}
+
+// Through the visible, enabled elements that take the focus, in the order
+// they were made, which is the order they are read in. A text box reached
+// this way has its text selected, as in a dialog.
+void Form::MoveFocus(bool backwards) {
+  HWND focus = ::GetFocus();
+  // From outside the elements Wine finds no previous one: the last is the
+  // one before the first.
+  if (!focus || !::IsChild(Hwnd(), focus)) {
+    focus = backwards ? ::GetNextDlgTabItem(Hwnd(), nullptr, FALSE) : nullptr;
+  }
+  HWND next = ::GetNextDlgTabItem(Hwnd(), focus, backwards);
+  if (!next) return;
+  ::SetFocus(next);
+  if (::SendMessageW(next, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) {
+    ::SendMessageW(next, EM_SETSEL, 0, -1);
+  }
 }
 
 void Form::KeepBehindFront(const WINDOWPOS& position) {
@@ -368,6 +415,7 @@ void Form::KeepBehindFront(const WINDOWPOS& position) {
 }
 
 LRESULT Form::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == KeyPreviewMessage()) return PreviewKey(*reinterpret_cast<const MSG*>(lParam));
   switch (message) {
     case WM_WINDOWPOSCHANGED:
       KeepBehindFront(*reinterpret_cast<WINDOWPOS*>(lParam));
@@ -385,6 +433,9 @@ LRESULT Form::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_DPICHANGED:
       OnDpiChangedMessage(HIWORD(wParam), *reinterpret_cast<const RECT*>(lParam));
       return 0;
+    case WM_GETOBJECT:
+      if (LRESULT object = AccessibleObject(wParam, lParam)) return object;
+      return Default(message, wParam, lParam);
     // Wine activates a clicked window whatever its style says.
     case WM_MOUSEACTIVATE:
       if (ExtendedStyle() & WS_EX_NOACTIVATE) return MA_NOACTIVATE;

@@ -125,6 +125,12 @@ class Form : public Element, public Canvas, private WindowBase, public ElementOw
   // After the form has moved to a monitor of another DPI and its elements
   // stand at their places for it: what the form sized in pixels is redone.
   virtual void OnDpiChanged() {}
+  // A key pressed anywhere in the form, before the element with the focus
+  // sees it (as with a designer's KeyPreview); true keeps it from the element.
+  // Tab and Shift+Tab never come here: they move the focus.
+  virtual bool OnKeyDown(int /*virtualKey*/) { return false; }
+  // A character typed with Alt held; true when it was the form's access key.
+  virtual bool OnAccessKey(wchar_t /*key*/) { return false; }
 
   Label& AddLabel(const std::string& name, int index, const TwipsRect& twips);
   PictureBox& AddPictureBox(const std::string& name, const TwipsRect& twips, int id);
@@ -156,6 +162,8 @@ class Form : public Element, public Canvas, private WindowBase, public ElementOw
   void OnDpiChangedMessage(int dpi, const RECT& suggested);
   template <typename T>
   T& Place(std::unique_ptr<T> element, const TwipsRect& twips);
+  bool PreviewKey(const MSG& key);
+  void MoveFocus(bool backwards);
   void OnMouseMessage(UINT message, WPARAM wParam, LPARAM lParam);
   Label* LabelAt(POINT pixels) const;
   Control* ControlOf(HWND window) const;

@@ -1,5 +1,7 @@
 #include "toolkit/ListView.h"
 
+#include <commctrl.h>
+
 #include <limits>
 
 #include "platform/Utf8.h"
@@ -79,6 +81,42 @@ ListView::ItemBatch::~ItemBatch() {
   ::InvalidateRect(list_, nullptr, TRUE);
 }
 
+namespace {
+bool IsMoveKey(WPARAM key) {
+  switch (key) {
+    case VK_LEFT:
+    case VK_RIGHT:
+    case VK_UP:
+    case VK_DOWN:
+    case VK_HOME:
+    case VK_END:
+    case VK_PRIOR:
+    case VK_NEXT: return true;
+    default: return false;
+  }
+}
+}  // namespace
+
+// The list moves its selection with the keys itself; the program hears of
+// the move as of a click. Before any item has the focus the first key picks
+// the first item, where the list itself would pick none.
+bool ListView::PreviewMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
+  if (message != WM_KEYDOWN || !IsMoveKey(wParam) || Count() == 0) return false;
+  const int before = SelectedIndex();
+  const LRESULT focused =
+      ::SendMessageW(Hwnd(), LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED);
+  if (focused < 0) {
+    Select(1);
+    ::SendMessageW(Hwnd(), LVM_ENSUREVISIBLE, 0, FALSE);
+    result = 0;
+  } else {
+    result = ::DefSubclassProc(Hwnd(), message, wParam, lParam);
+  }
+  const int after = SelectedIndex();
+  if (after > 0 && after != before && onItemClick) onItemClick(after);
+  return true;
+}
+
 LRESULT ListView::OnNotify(NMHDR& header) {
   // Nobody here follows single deletions, so clearing the list need not
   // announce each item on its way out.
@@ -88,6 +126,8 @@ LRESULT ListView::OnNotify(NMHDR& header) {
     if (item >= 0 && onItemClick) onItemClick(item + 1);
   } else if (header.code == NM_DBLCLK && onDblClick) {
     onDblClick();
+  } else if (header.code == NM_RETURN && onEnter) {
+    onEnter();
   }
   return 0;
 }

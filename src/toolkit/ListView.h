@@ -47,11 +47,15 @@ class ListView : public Control {
     HWND list_;
   };
 
+  // An item picked by a click, or reached with the arrow keys.
   std::function<void(int index)> onItemClick;
   std::function<void()> onDblClick;
+  // Enter pressed in the list.
+  std::function<void()> onEnter;
 
  private:
   LRESULT OnNotify(NMHDR& header) override;
+  bool PreviewMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) override;
 
   const ImageList* large_ = nullptr;
   std::map<std::string, int> keys_;

@@ -1,14 +1,22 @@
 #include "toolkit/MessageLoop.h"
 
-#include <windows.h>
-
 namespace toolkit {
-namespace {
+
+UINT KeyPreviewMessage() {
+  static const UINT message = ::RegisterWindowMessageW(L"Morvane.KeyPreview");
+  return message;
+}
+
 void Dispatch(MSG& message) {
+  if (message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST) {
+    HWND top = ::GetAncestor(message.hwnd, GA_ROOT);
+    if (top && ::SendMessageW(top, KeyPreviewMessage(), 0, reinterpret_cast<LPARAM>(&message))) {
+      return;
+    }
+  }
   ::TranslateMessage(&message);
   ::DispatchMessageW(&message);
 }
-}  // namespace
 
 void DoEvents() {
   MSG message;

@@ -212,8 +212,27 @@ void PictureBox::OnPaint() {
   } else {
     PaintBackground(dc);
   }
+  if (onPaintOver) onPaintOver(dc);
   ::EndPaint(Hwnd(), &paint);
   if (!autoRedraw_ && onPaint) onPaint();
+}
+
+void PictureBox::SetTabStop(bool on) {
+  if (!Hwnd()) return;
+  LONG_PTR style = ::GetWindowLongPtrW(Hwnd(), GWL_STYLE) & ~static_cast<LONG_PTR>(WS_TABSTOP);
+  ::SetWindowLongPtrW(Hwnd(), GWL_STYLE, style | (on ? WS_TABSTOP : 0));
+}
+
+// A surface whose text is what it shows (the status strip) tells screen
+// readers of a new text; the same text set again is no news.
+LRESULT PictureBox::OnSetText(WPARAM wParam, LPARAM lParam) {
+  const auto* text = reinterpret_cast<const wchar_t*>(lParam);
+  std::wstring old(static_cast<size_t>(::GetWindowTextLengthW(Hwnd())) + 1, L'\0');
+  old.resize(
+      static_cast<size_t>(::GetWindowTextW(Hwnd(), old.data(), static_cast<int>(old.size()))));
+  const LRESULT result = Default(WM_SETTEXT, wParam, lParam);
+  if (text && old != text) AnnounceChange(Hwnd(), EVENT_OBJECT_NAMECHANGE);
+  return result;
 }
 
 void PictureBox::OnMouseMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -226,9 +245,25 @@ void PictureBox::OnMouseMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 LRESULT PictureBox::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == DefaultActionMessage()) {
+    DoDefaultAction();
+    return 0;
+  }
   switch (message) {
     case WM_PAINT: OnPaint(); return 0;
     case WM_ERASEBKGND: return 1;
+    case WM_SETTEXT: return OnSetText(wParam, lParam);
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS:
+      if (onFocus) onFocus(message == WM_SETFOCUS);
+      return 0;
+    case WM_KEYDOWN:
+    case WM_KEYUP:
+      if (onKey) onKey(message, wParam, lParam);
+      return 0;
+    case WM_GETOBJECT:
+      if (LRESULT object = AccessibleObject(wParam, lParam)) return object;
+      return Default(message, wParam, lParam);
     default:
       if (IsMouseMessage(message)) {
         OnMouseMessage(message, wParam, lParam);

@@ -73,6 +73,15 @@ class PictureBox : public Element, public Canvas, private WindowBase {
 
   void SetVisible(bool visible);
   bool Visible() const;
+  // Whether Tab reaches the surface.
+  void SetTabStop(bool on);
+
+  // The keyboard focus came (true) or went.
+  std::function<void(bool focused)> onFocus;
+  // WM_KEYDOWN and WM_KEYUP while the surface has the focus.
+  std::function<void(UINT message, WPARAM key, LPARAM flags)> onKey;
+  // Draws over every repaint, leaving the persistent image as it is.
+  std::function<void(HDC dc)> onPaintOver;
 
   // Raised when the window is repainted without AutoRedraw, after the back
   // colour and the picture.
@@ -85,6 +94,7 @@ class PictureBox : public Element, public Canvas, private WindowBase {
   void OnFontChanged() override;
   void OnPaint();
   void OnMouseMessage(UINT message, WPARAM wParam, LPARAM lParam);
+  LRESULT OnSetText(WPARAM wParam, LPARAM lParam);
   void Drawn() const override;
   void PaintBackground(HDC dc) const;
   void PrepareDC(HDC dc) const;

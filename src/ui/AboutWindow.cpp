@@ -103,7 +103,31 @@ void AboutWindow::OnLoad() {
   okCaption_ = context_.Text(IDS_ABOUT_OK);
   settingsCaption_ = context_.Text(IDS_ABOUT_SETTINGS);
   text_->SetText(InformationText());
+  DescribeElements();
   Tile();
+}
+
+// Screen readers call the information text and the window by the text's
+// first line, the program's name and version.
+void AboutWindow::DescribeElements() {
+  auto title = [this] {
+    return context_.Text(IDS_PRODUCT_NAME) + " " + context_.Text(IDS_ABOUT_VERSION);
+  };
+  text_->SetAccessibility({.role = ROLE_SYSTEM_TEXT,
+                           .name = title,
+                           .value = [this] { return text_->Text(); },
+                           .extraState = [] { return STATE_SYSTEM_READONLY; }});
+  SetAccessibility({.role = ROLE_SYSTEM_DIALOG, .name = title});
+  const std::initializer_list<std::pair<SkinnedButton*, const std::string*>> buttons = {
+      {updatesButton_.get(), &updatesCaption_},
+      {webPageButton_.get(), &webPageCaption_},
+      {helpButton_.get(), &helpCaption_},
+      {okButton_.get(), &okCaption_}};
+  for (const auto& [button, caption] : buttons) {
+    button->Face().SetAccessibility({.role = ROLE_SYSTEM_PUSHBUTTON,
+                                     .name = [caption] { return *caption; },
+                                     .defaultAction = [button] { button->Press(); }});
+  }
 }
 
 std::string AboutWindow::InformationText() const {
@@ -172,6 +196,13 @@ void AboutWindow::OnClick() {
 
 void AboutWindow::OnMouseMove(const toolkit::MouseEvent&) {
   Tile();
+}
+
+// Esc closes the window as OK does.
+bool AboutWindow::OnKeyDown(int virtualKey) {
+  if (virtualKey != VK_ESCAPE) return false;
+  okButton_->Press();
+  return true;
 }
 
 void AboutWindow::OnUnload() {

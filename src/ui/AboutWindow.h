@@ -39,9 +39,11 @@ class AboutWindow : public toolkit::Form {
   void OnClick() override;
   void OnMouseMove(const toolkit::MouseEvent& event) override;
   void OnDpiChanged() override;
+  bool OnKeyDown(int virtualKey) override;
 
  private:
   void DisableButtons();
+  void DescribeElements();
   std::string InformationText() const;
 
   const WindowContext& context_;

@@ -137,6 +137,7 @@ void MainWindow::CreateElements() {
     ShowApplyButton(true);
   };
   iconList_->onDblClick = [this] { OnIconsDblClick(); };
+  iconList_->onEnter = [this] { OnIconsDblClick(); };
   newIcon_->mouse.onDblClick = [this] { OnPreviewDblClick(); };
   defaultIcon_->mouse.onDblClick = [this] { OnDefaultIconDblClick(); };
   infoTipBox_->onChange = [this] {
@@ -203,6 +204,7 @@ void MainWindow::OnLoad() {
   skin_->SetPicture(skin_->Image());
 
   KeepTexts();
+  DescribeElements();
   recent_.Load();
   FillRecentBox();
   SetIconSpacing();

@@ -9,6 +9,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "core/FolderSettings.h"
 #include "core/IconBrowser.h"
@@ -61,6 +62,8 @@ class MainWindow : public toolkit::Form {
   void OnMouseMove(const toolkit::MouseEvent& event) override;
   void OnActivate() override;
   void OnDpiChanged() override;
+  bool OnKeyDown(int virtualKey) override;
+  bool OnAccessKey(wchar_t key) override;
 
  private:
   void CreateLabelPair(const std::string& name, const toolkit::TwipsRect& twips);
@@ -76,6 +79,11 @@ class MainWindow : public toolkit::Form {
   void SetIconSpacing();
   void ShowApplyButton(bool visible);
   void ShowDefaultFolderIcon();
+  // Names, roles and access keys, in the language of the texts shown.
+  void DescribeElements();
+  std::string AccessKeyOf(SkinnedButton& button, int keyText);
+  // Tells screen readers the list's state and name (its file) changed.
+  void AnnounceIconList() const;
 
   // The icon browser.
   void SelectIcon(std::optional<int> item);
@@ -117,6 +125,11 @@ class MainWindow : public toolkit::Form {
   toolkit::PictureBox* scratch_ = nullptr;
 
   std::unique_ptr<SkinnedButton> browseButton_, applyButton_, exitButton_;
+  struct AccessKey {
+    wchar_t key;
+    SkinnedButton* button;
+  };
+  std::vector<AccessKey> accessKeys_;
   platform::Picture windowIcon_;
 
   // Texts fetched once at set-up and kept for the run.

@@ -73,6 +73,7 @@ void MainWindow::LoadIcons() {
   wait.SetPointer(toolkit::kPointerHourglass);
 
   browser_.SetLoading(true);
+  AnnounceIconList();
   toolkit::DoEvents();
 
   iconList_->SetIcons(nullptr);
@@ -90,6 +91,7 @@ void MainWindow::LoadIcons() {
     toolkit::TryProperty([&] { iconList_->AddItem("a1", "", 1); });
     browser_.SetEmpty(true);
     browser_.SetLoading(false);
+    AnnounceIconList();
     return;
   }
 
@@ -117,6 +119,7 @@ void MainWindow::LoadIcons() {
 
   iconList_->SetIcons(iconImages_);
   ListIcons(count);
+  AnnounceIconList();
 }
 
 void MainWindow::SelectIcon(std::optional<int> item) {

@@ -229,8 +229,13 @@ void Type(const std::string& text) {
   for (wchar_t unit : Wide(text)) SendKey(0, unit, KEYEVENTF_UNICODE);
 }
 
-void PressKey(WORD virtualKey) {
+void PressKey(WORD virtualKey, WORD heldKey) {
+  INPUT held[2] = {};
+  for (INPUT& k : held) k.type = INPUT_KEYBOARD, k.ki.wVk = heldKey;
+  held[1].ki.dwFlags = KEYEVENTF_KEYUP;
+  if (heldKey) ::SendInput(1, &held[0], sizeof(INPUT));
   SendKey(virtualKey, 0, 0);
+  if (heldKey) ::SendInput(1, &held[1], sizeof(INPUT));
 }
 
 POINT Centre(HWND window) {

@@ -20,7 +20,8 @@ inline constexpr auto kLimit = 60s;
 namespace ids {
 inline constexpr int kPreview = 1102, kDefaultFolderIcon = 1103, kInfoTip = 1104;
 inline constexpr int kRecentFiles = 1105, kIconList = 1106, kBrowse = 1107, kApply = 1108;
-inline constexpr int kStatus = 1109, kUpdate = 1202, kWebPage = 1203, kHelp = 1204, kOk = 1205;
+inline constexpr int kStatus = 1109, kExit = 1110, kUpdate = 1202, kWebPage = 1203, kHelp = 1204,
+                     kOk = 1205;
 }  // namespace ids
 
 std::wstring Wide(const std::string& text);
@@ -64,7 +65,7 @@ void MovePointer(HWND window, POINT at);  // no window: screen coordinates
 bool Drag(HWND window, POINT from, SIZE by);
 COLORREF ScreenPixel(POINT at);
 void Type(const std::string& text);
-void PressKey(WORD virtualKey);
+void PressKey(WORD virtualKey, WORD heldKey = 0);  // heldKey (VK_SHIFT, VK_MENU) around it
 POINT Centre(HWND window);
 HWND FocusWindow();  // of whichever process has the foreground
 
