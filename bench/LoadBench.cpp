@@ -80,6 +80,13 @@ double TimeSingleExtractions(const std::string& file, int icons) {
   });
 }
 
+double TimeSingleOwnExtractions(const std::string& file, int icons, int size) {
+  const platform::IconFile source(file);
+  return TimeMs([&] {
+    for (int i = 0; i < icons; ++i) platform::ReleaseIcon(source.Extract(i, size));
+  });
+}
+
 double TimeBatchedExtraction(const std::string& file, int icons) {
   std::vector<HICON> large(icons);
   std::vector<HICON> small(icons);

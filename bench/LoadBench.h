@@ -41,9 +41,11 @@ MainWindowRun& OpenMainWindow(const std::string& programFolder, const std::strin
 double TimeBrowserLoad(MainWindowRun& run, const std::string& file, int icons);
 
 // `icons` single-icon ExtractIconExA calls on `file`, each asking for the
-// large and the small icon and destroying both, as the program's extraction
-// does.
+// large and the small icon and destroying both: the yardstick the goals are
+// set against.
 double TimeSingleExtractions(const std::string& file, int icons);
+// `icons` single extractions through the call the program makes, at `size`.
+double TimeSingleOwnExtractions(const std::string& file, int icons, int size);
 // One ExtractIconExA call for all `icons` icons, and destroying them.
 double TimeBatchedExtraction(const std::string& file, int icons);
 
