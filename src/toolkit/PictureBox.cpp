@@ -4,6 +4,8 @@
 
 #include <cstring>
 
+#include "platform/Utf8.h"
+
 namespace toolkit {
 namespace {
 
@@ -227,11 +229,9 @@ void PictureBox::SetTabStop(bool on) {
 // readers of a new text; the same text set again is no news.
 LRESULT PictureBox::OnSetText(WPARAM wParam, LPARAM lParam) {
   const auto* text = reinterpret_cast<const wchar_t*>(lParam);
-  std::wstring old(static_cast<size_t>(::GetWindowTextLengthW(Hwnd())) + 1, L'\0');
-  old.resize(
-      static_cast<size_t>(::GetWindowTextW(Hwnd(), old.data(), static_cast<int>(old.size()))));
+  const std::string old = WindowText(Hwnd());
   const LRESULT result = Default(WM_SETTEXT, wParam, lParam);
-  if (text && old != text) AnnounceChange(Hwnd(), EVENT_OBJECT_NAMECHANGE);
+  if (text && old != platform::Utf8(text)) AnnounceChange(Hwnd(), EVENT_OBJECT_NAMECHANGE);
   return result;
 }
 

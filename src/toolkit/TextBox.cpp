@@ -1,6 +1,7 @@
 #include "toolkit/TextBox.h"
 
 #include "platform/Utf8.h"
+#include "toolkit/WindowBase.h"
 
 namespace toolkit {
 namespace {
@@ -20,11 +21,7 @@ TextBox::TextBox(std::string name, HWND parent, const RECT& pixels, int id, Line
 }
 
 std::string TextBox::Text() const {
-  int length = ::GetWindowTextLengthW(Hwnd());
-  std::wstring text(static_cast<size_t>(length) + 1, L'\0');
-  int copied = ::GetWindowTextW(Hwnd(), text.data(), length + 1);
-  text.resize(copied > 0 ? static_cast<size_t>(copied) : 0);
-  return platform::Utf8(text);
+  return WindowText(Hwnd());
 }
 
 void TextBox::SetText(const std::string& text) {

@@ -40,4 +40,7 @@ class WindowBase {
   HWND hwnd_ = nullptr;
 };
 
+// The whole of a window's text, as UTF-8.
+std::string WindowText(HWND window);
+
 }  // namespace toolkit

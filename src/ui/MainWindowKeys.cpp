@@ -2,8 +2,6 @@
 // access keys, and what each element tells assistive tools.
 #include <windows.h>
 
-#include <algorithm>
-
 #include "platform/Utf8.h"
 #include "resource_ids.h"
 #include "ui/ControlIds.h"
@@ -23,13 +21,6 @@ std::string OneLine(std::string text) {
 std::string FileName(const std::string& path) {
   const std::size_t slash = path.find_last_of("\\/");
   return slash == std::string::npos ? path : path.substr(slash + 1);
-}
-
-std::string WindowText(HWND window) {
-  std::wstring text(static_cast<std::size_t>(::GetWindowTextLengthW(window)) + 1, L'\0');
-  text.resize(static_cast<std::size_t>(
-      std::max(0, ::GetWindowTextW(window, text.data(), static_cast<int>(text.size())))));
-  return platform::Utf8(text);
 }
 
 wchar_t UpperCase(wchar_t letter) {
@@ -94,8 +85,9 @@ void MainWindow::DescribeElements() {
            },
        .description = text(IDS_TIP_ICON_LIST),
        .extraState = [this] { return browser_.Loading() ? STATE_SYSTEM_BUSY : 0; }});
-  statusStrip_->SetAccessibility(
-      {.role = ROLE_SYSTEM_STATUSBAR, .name = [this] { return WindowText(statusStrip_->Hwnd()); }});
+  statusStrip_->SetAccessibility({.role = ROLE_SYSTEM_STATUSBAR, .name = [this] {
+                                    return toolkit::WindowText(statusStrip_->Hwnd());
+                                  }});
   const struct {
     SkinnedButton& button;
     int caption, key, tip;
@@ -112,7 +104,8 @@ void MainWindow::DescribeElements() {
          .keyboardShortcut = AccessKeyOf(button, each.key),
          .defaultAction = [&button] { button.Press(); }});
   }
-  SetAccessibility({.role = ROLE_SYSTEM_CLIENT, .name = [this] { return WindowText(Hwnd()); }});
+  SetAccessibility(
+      {.role = ROLE_SYSTEM_CLIENT, .name = [this] { return toolkit::WindowText(Hwnd()); }});
 }
 
 void MainWindow::AnnounceIconList() const {
