@@ -1,14 +1,11 @@
 #include "toolkit/Control.h"
 
-#include <commctrl.h>
 #include <windowsx.h>
 
 #include "platform/Utf8.h"
+#include "toolkit/ToolTips.h"
 
 namespace toolkit {
-namespace {
-constexpr UINT_PTR kSubclassId = 1;
-}
 
 Control::Control(std::string name, std::string kind, const wchar_t* className, DWORD style,
                  DWORD exStyle, HWND parent, const RECT& pixels, int id)
@@ -20,15 +17,30 @@ Control::Control(std::string name, std::string kind, const wchar_t* className, D
   if (!window) return;
   // Screen readers and tests find the control by its name.
   ::SetWindowTextW(window, platform::Wide(Name()).c_str());
-  ::SetWindowSubclass(window, &Control::Subclass, kSubclassId, reinterpret_cast<DWORD_PTR>(this));
+  // The procedure is swapped rather than chained with SetWindowSubclass:
+  // Wine keeps that chain in a window property, and reading it is a trip to
+  // the Wine server on every message, which made each item added to the
+  // icon list cost ten times the insertion itself.
+  ::SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+  own_ = reinterpret_cast<WNDPROC>(
+      ::SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Control::Procedure)));
   AttachWindow(window);
 }
 
 Control::~Control() {
-  if (Hwnd()) {
-    ::RemoveWindowSubclass(Hwnd(), &Control::Subclass, kSubclassId);
+  if (Hwnd() && ::GetWindowLongPtrW(Hwnd(), GWLP_USERDATA) == reinterpret_cast<LONG_PTR>(this)) {
+    Release(Hwnd());
     ::DestroyWindow(Hwnd());
   }
+}
+
+void Control::Release(HWND window) const {
+  ::SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(own_));
+  ::SetWindowLongPtrW(window, GWLP_USERDATA, 0);
+}
+
+LRESULT Control::OwnProcedure(UINT message, WPARAM wParam, LPARAM lParam) const {
+  return ::CallWindowProcW(own_, Hwnd(), message, wParam, lParam);
 }
 
 bool Control::Visible() const {
@@ -39,10 +51,17 @@ void Control::SetVisible(bool visible) {
   if (Hwnd()) ::ShowWindow(Hwnd(), visible ? SW_SHOWNA : SW_HIDE);
 }
 
-LRESULT CALLBACK Control::Subclass(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
-                                   UINT_PTR, DWORD_PTR self) noexcept {
-  auto* control = reinterpret_cast<Control*>(self);
+LRESULT CALLBACK Control::Procedure(HWND window, UINT message, WPARAM wParam,
+                                    LPARAM lParam) noexcept {
+  auto* control = reinterpret_cast<Control*>(::GetWindowLongPtrW(window, GWLP_USERDATA));
+  const WNDPROC own = control->own_;
+  // Destroyed with its parent: the control lets go of the window here.
+  if (message == WM_NCDESTROY) {
+    control->Release(window);
+    return ::CallWindowProcW(own, window, message, wParam, lParam);
+  }
   try {
+    ToolTips::Relay(window, message, wParam, lParam);
     LRESULT result = 0;
     if (control->PreviewMessage(message, wParam, lParam, result)) return result;
     if (message == WM_GETOBJECT) {
@@ -56,7 +75,7 @@ LRESULT CALLBACK Control::Subclass(HWND window, UINT message, WPARAM wParam, LPA
   } catch (...) {
     // A failing handler is stepped over; the control goes on as usual.
   }
-  return ::DefSubclassProc(window, message, wParam, lParam);
+  return ::CallWindowProcW(own, window, message, wParam, lParam);
 }
 
 }  // namespace toolkit

@@ -1,6 +1,7 @@
 // An element that is one of the system's own controls (edit, combo box, list
-// view) living as a child window of a form. The control is subclassed so
-// that its mouse moves reach the program, and the form hands it the
+// view) living as a child window of a form. The control's procedure is
+// replaced by one that lets the program see its messages first (mouse
+// moves, keys, screen readers' requests), and the form hands it the
 // notifications the control sends to its parent.
 #pragma once
 
@@ -38,11 +39,15 @@ class Control : public Element {
                               LRESULT& /*result*/) {
     return false;
   }
+  // The control's own handling of a message, without the preview.
+  LRESULT OwnProcedure(UINT message, WPARAM wParam, LPARAM lParam) const;
 
  private:
-  static LRESULT CALLBACK Subclass(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
-                                   UINT_PTR id, DWORD_PTR self) noexcept;
+  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam,
+                                    LPARAM lParam) noexcept;
+  void Release(HWND window) const;
   int id_;
+  WNDPROC own_ = nullptr;
   MouseHandlers* pressed_ = nullptr;
 };
 

@@ -110,7 +110,7 @@ bool ListView::PreviewMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESUL
     ::SendMessageW(Hwnd(), LVM_ENSUREVISIBLE, 0, FALSE);
     result = 0;
   } else {
-    result = ::DefSubclassProc(Hwnd(), message, wParam, lParam);
+    result = OwnProcedure(message, wParam, lParam);
   }
   const int after = SelectedIndex();
   if (after > 0 && after != before && onItemClick) onItemClick(after);

@@ -2,12 +2,21 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
+
 #include "platform/Utf8.h"
+#include "toolkit/MouseEvents.h"
 
 namespace toolkit {
 namespace {
 constexpr int kMaxTipWidth = 320;
 constexpr int kMaxTipText = 1024;
+
+// Every form's tips while they live; all on the user-interface thread.
+std::vector<const ToolTips*>& LiveTips() {
+  static std::vector<const ToolTips*> live;
+  return live;
+}
 }  // namespace
 
 ToolTips::ToolTips(HWND form)
@@ -18,10 +27,29 @@ ToolTips::ToolTips(HWND form)
                               ::GetModuleHandleW(nullptr), nullptr)) {
   // Long tips wrap instead of running across the screen.
   if (tips_) ::SendMessageW(tips_, TTM_SETMAXTIPWIDTH, 0, kMaxTipWidth);
+  LiveTips().push_back(this);
 }
 
 ToolTips::~ToolTips() {
+  std::erase(LiveTips(), this);
   if (tips_) ::DestroyWindow(tips_);
+}
+
+void ToolTips::Watch(HWND window) {
+  if (std::find(watched_.begin(), watched_.end(), window) == watched_.end()) {
+    watched_.push_back(window);
+  }
+}
+
+void ToolTips::Relay(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (!IsMouseMessage(message)) return;
+  for (const ToolTips* tips : LiveTips()) {
+    if (std::find(tips->watched_.begin(), tips->watched_.end(), window) == tips->watched_.end()) {
+      continue;
+    }
+    MSG mouse{window, message, wParam, lParam, static_cast<DWORD>(::GetMessageTime()), {}};
+    ::SendMessageW(tips->tips_, TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&mouse));
+  }
 }
 
 void ToolTips::Put(TTTOOLINFOW& tool, const std::string& text) {
@@ -41,18 +69,20 @@ void ToolTips::Put(TTTOOLINFOW& tool, const std::string& text) {
 void ToolTips::SetTip(HWND control, const std::string& text) {
   if (!tips_) return;
   TTTOOLINFOW tool{};
-  tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+  tool.uFlags = TTF_IDISHWND;
   tool.uId = reinterpret_cast<UINT_PTR>(control);
   Put(tool, text);
+  Watch(control);
 }
 
 void ToolTips::SetTip(UINT_PTR id, const RECT& area, const std::string& text) {
   if (!tips_) return;
   TTTOOLINFOW tool{};
-  tool.uFlags = TTF_SUBCLASS;
+  tool.uFlags = 0;
   tool.uId = id;
   tool.rect = area;
   Put(tool, text);
+  Watch(form_);
 }
 
 std::string ToolTips::TipOf(HWND control) const {

@@ -2,6 +2,7 @@
 
 #include "platform/Utf8.h"
 #include "toolkit/MousePointer.h"
+#include "toolkit/ToolTips.h"
 
 namespace toolkit {
 
@@ -60,6 +61,7 @@ LRESULT CALLBACK WindowBase::Procedure(HWND window, UINT message, WPARAM wParam,
 
   LRESULT result = 0;
   try {
+    ToolTips::Relay(window, message, wParam, lParam);
     result = self->HandleMessage(message, wParam, lParam);
   } catch (...) {
     // A handler that fails is stepped over, as every failure of this program

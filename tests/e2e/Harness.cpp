@@ -200,6 +200,25 @@ void MovePointer(HWND window, POINT at) {
   SendMouse(at);
 }
 
+std::string TipAt(HWND window, POINT at) {
+  auto shownTip = [] {
+    for (HWND top : TopWindows())
+      if (ClassOf(top) == "tooltips_class32") return top;
+    return HWND{};
+  };
+  MovePointer(nullptr, {5, 5});
+  WaitUntil([&] { return !shownTip(); });
+  MovePointer(window, at);
+  wchar_t text[1024] = {};
+  WaitUntil([&] {
+    ::SendMessageTimeoutW(shownTip(), WM_GETTEXT, 1024, reinterpret_cast<LPARAM>(text),
+                          SMTO_ABORTIFHUNG, 1000, nullptr);
+    return text[0] != 0;
+  });
+  MovePointer(nullptr, {5, 5});
+  return Utf8(text);
+}
+
 COLORREF ScreenPixel(POINT at) {
   HDC screen = ::GetDC(nullptr);
   const COLORREF colour = ::GetPixel(screen, at.x, at.y);

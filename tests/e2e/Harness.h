@@ -67,6 +67,8 @@ COLORREF ScreenPixel(POINT at);
 void Type(const std::string& text);
 void PressKey(WORD virtualKey, WORD heldKey = 0);  // heldKey (VK_SHIFT, VK_MENU) around it
 POINT Centre(HWND window);
+// The tool tip that shows when the pointer rests at a point of a window.
+std::string TipAt(HWND window, POINT at);
 HWND FocusWindow();  // of whichever process has the foreground
 
 // A scratch folder holding "program\" (a copy of the shipping folder) and

@@ -45,26 +45,6 @@ std::string Fixture(const std::string& name, const ProgramRun& run) {
   return text.replace(text.find(mark), mark.size(), Lower(run.Root()));
 }
 
-// The tool tip of the label that shows the folder's path in `main`.
-std::string FolderTip(HWND main) {
-  auto shownTip = [] {
-    for (HWND window : TopWindows())
-      if (ClassOf(window) == "tooltips_class32") return window;
-    return HWND{};
-  };
-  MovePointer(nullptr, {5, 5});
-  WaitUntil([&] { return !shownTip(); });
-  MovePointer(main, kFolderLabel);
-  wchar_t text[1024] = {};
-  WaitUntil([&] {
-    ::SendMessageTimeoutW(shownTip(), WM_GETTEXT, 1024, reinterpret_cast<LPARAM>(text),
-                          SMTO_ABORTIFHUNG, 1000, nullptr);
-    return text[0] != 0;
-  });
-  MovePointer(nullptr, {5, 5});
-  return Utf8(text);
-}
-
 void Travel(const Road& road) {
   SCOPED_TRACE(road.name);
   ProgramRun run;
@@ -83,7 +63,7 @@ void Travel(const Road& road) {
   if (road.length) WriteFile(run.File("ARA.INI"), Utf16File(recent));
 
   ASSERT_TRUE(run.Open(2, folder));
-  EXPECT_EQ(FolderTip(run.main), folder);
+  EXPECT_EQ(TipAt(run.main, kFolderLabel), folder);
   if (road.length) {
     ASSERT_TRUE(ChooseFirstRecentFile(run));
   } else {
@@ -185,7 +165,7 @@ TEST(EveryName, TheLauncherHandsTheFolderOnUnchanged) {
       },
       2 * kLimit));
   ::SetWindowPos(main, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
-  EXPECT_EQ(FolderTip(main), folder);
+  EXPECT_EQ(TipAt(main, kFolderLabel), folder);
   ::PostMessageW(main, WM_CLOSE, 0, 0);
   EXPECT_TRUE(WaitUntil([&] { return !::IsWindow(main); }));
 }

@@ -123,4 +123,17 @@ TEST(IconBrowser, StatusShowsTheLastProgressThenTheCount) {
   }
 }
 
+// Each kind of window the tips are given to: a picture surface, two of the
+// system's controls and a label drawn on the form itself.
+TEST(MainWindow, ToolTipsShowWhereThePointerRests) {
+  ProgramRun run;
+  ASSERT_TRUE(run.Open());
+  for (auto [id, tip] : {std::pair{ids::kPreview, IDS_TIP_NEW_ICON},
+                         {ids::kRecentFiles, IDS_TIP_RECENT}, {ids::kIconList, IDS_TIP_ICON_LIST}}) {
+    EXPECT_EQ(TipAt(run.Element(id), {4, 4}), English(run, tip)) << id;
+  }
+  EXPECT_EQ(TipAt(run.main, {90, 62}), run.Target());
+  EXPECT_TRUE(run.Close());
+}
+
 }  // namespace
