@@ -24,15 +24,6 @@ struct Road {
   size_t length = 0;
 };
 
-DWORD Attributes(const std::string& path) {
-  return ::GetFileAttributesW(Wide(path).c_str());
-}
-
-std::string Utf16File(const std::string& text) {
-  const std::wstring wide = Wide(text);
-  return "\xFF\xFE" + std::string(reinterpret_cast<const char*>(wide.data()), wide.size() * 2);
-}
-
 std::string Lower(std::string ascii) {
   std::transform(ascii.begin(), ascii.end(), ascii.begin(), ::tolower);
   return ascii;

@@ -16,14 +16,6 @@ std::string English(const ProgramRun& run, int id) {
   return LibraryString(run.File("LANG_ENG.DLL"), id);
 }
 
-std::string Settings(const ProgramRun& run, const char* key) {
-  return IniValue(run.Target("Desktop.ini"), ".ShellClassInfo", key);
-}
-
-DWORD Attributes(const std::string& path) {
-  return ::GetFileAttributesA(path.c_str());
-}
-
 TEST(MainWindow, DoubleClickingAnIconOrThePreviewAppliesWithoutAskingAndEnds) {
   struct Row {
     const char* name;
@@ -42,7 +34,7 @@ TEST(MainWindow, DoubleClickingAnIconOrThePreviewAppliesWithoutAskingAndEnds) {
     }
     ASSERT_TRUE(run.Ended()) << "a question would keep it open";
     EXPECT_EQ(run.ExitCode(), 0u);
-    EXPECT_EQ(Settings(run, "IconIndex"), std::to_string(row.picked - 1));
+    EXPECT_EQ(run.Setting("IconIndex"), std::to_string(row.picked - 1));
     EXPECT_FALSE(IsFile(run.File("Morvane.ttf"))) << "ended through the clean-up";
   }
 }

@@ -15,10 +15,10 @@ namespace {
 
 constexpr int kIconSize = 32;  // the large icons at 96 dpi
 
-using testing_support::ReadWholeFile;
+using testing_support::ReadFile;
 using testing_support::ScratchFolder;
 using testing_support::TestFolder;
-using testing_support::WriteWholeFile;
+using testing_support::WriteFile;
 
 const std::string kBlob("\x4D\x00\xFF\x0A\x80\x41", 6);
 
@@ -69,7 +69,7 @@ TEST(ResourceLibrary, PicturesOwnTheirHandlesAndUnknownOnesAreNone) {
 
 TEST(ResourceLibrary, WithoutALibraryNothingLeaksFromTheProgramOrTheSystem) {
   ScratchFolder folder;
-  WriteWholeFile(folder / "Resource.DLL", "MZ this is not a library");
+  WriteFile(folder / "Resource.DLL", "MZ this is not a library");
   for (const std::string& file : {folder / "NOPE.DLL", folder / "Resource.DLL"}) {
     platform::ResourceLibrary library;
     library.Open(TestFolder() + "TESTRES.DLL");
