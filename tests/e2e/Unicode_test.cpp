@@ -1,10 +1,10 @@
 // A user's whole road (an icon file chosen, chosen again from the recent list
 // in the next run, applied with an info tip, removed) for folders and icon
-// files of every script and for a path longer than MAX_PATH.
+// files of every script and for a path longer than MAX_PATH. The launcher
+// handing such names on is the Linux desktop test's (desktop_test.sh).
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <memory>
 
 #include "Harness.h"
 
@@ -140,45 +140,6 @@ TEST(EveryName, AUsersRoadKeepsTheNamesAndTheTip) {
        "εικονιδια.dll", "Μακρύς δρόμος", false, 300},
   };
   for (const Road& road : roads) Travel(road);
-}
-
-// scripts/run.sh started as a Linux user starts it: Wine runs a Linux
-// program named by its path, and the environment goes with it.
-TEST(EveryName, TheLauncherHandsTheFolderOnUnchanged) {
-  ProgramRun scratch;
-  const std::string folder = scratch.Root() + "\\写真 Ελλάδα ☕";
-  ASSERT_TRUE(::CreateDirectoryW(Wide(folder).c_str(), nullptr));
-  wchar_t prefix[MAX_PATH] = {};
-  ::GetEnvironmentVariableW(L"WINEPREFIX", prefix, MAX_PATH);
-  std::string unixFolder = Utf8(prefix) + "/drive_c" + folder.substr(2);
-  std::replace(unixFolder.begin(), unixFolder.end(), '\\', '/');
-  ::SetEnvironmentVariableW(L"MORVANE_WINEPREFIX", prefix);
-  ::SetEnvironmentVariableW(L"MORVANE_BUILD_DIR", Wide(MORVANE_BUILD_DIR).c_str());
-  std::wstring line =
-      Wide("Z:\\bin\\bash " MORVANE_SOURCE_DIR "/scripts/run.sh \"" + unixFolder + "\"");
-  STARTUPINFOW startup{};
-  startup.cb = sizeof startup;
-  PROCESS_INFORMATION launcher{};  // Wine hands out no handle of a Linux process
-  ASSERT_TRUE(::CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                               &startup, &launcher));
-  // The launcher leaves windows to a window manager, which this display lacks.
-  const std::shared_ptr<void> putBack(nullptr, [](void*) {
-    ::RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\Wine\\X11 Driver", L"Managed", REG_SZ, L"N",
-                      4);
-  });
-  HWND main = nullptr;
-  ASSERT_TRUE(WaitUntil(
-      [&] {
-        for (HWND window : TopWindows())
-          if (ClassOf(window) == "MorvaneForm" && Text(window).rfind("Morvane - ", 0) == 0)
-            main = window;
-        return main != nullptr;
-      },
-      2 * kLimit));
-  ::SetWindowPos(main, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
-  EXPECT_EQ(FolderTip(main), folder);
-  ::PostMessageW(main, WM_CLOSE, 0, 0);
-  EXPECT_TRUE(WaitUntil([&] { return !::IsWindow(main); }));
 }
 
 }  // namespace
