@@ -54,15 +54,6 @@ std::vector<HWND> TopWindows() {  // the visible ones
   return found;
 }
 
-std::string IniValue(const std::string& file, const char* section, const char* key) {
-  for (std::wstring value(4096, L'\0');; value.resize(value.size() * 2)) {
-    const DWORD length =
-        ::GetPrivateProfileStringW(Wide(section).c_str(), Wide(key).c_str(), L"", value.data(),
-                                   static_cast<DWORD>(value.size()), Wide(file).c_str());
-    if (length + 1 < value.size()) return Utf8(value.substr(0, length));
-  }
-}
-
 std::string LibraryString(const std::string& library, int id) {
   HMODULE module = ::LoadLibraryExW(Wide(library).c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
   wchar_t text[4096] = {};
@@ -292,6 +283,13 @@ HWND ProgramRun::WaitForWindow(const std::string& className, const std::string& 
     return found != nullptr;
   });
   return found;
+}
+
+std::string ProgramRun::Setting(const char* key) const {
+  wchar_t value[4096] = {};
+  const DWORD length = ::GetPrivateProfileStringW(L".ShellClassInfo", Wide(key).c_str(), L"", value,
+                                                  4096, Wide(Target("Desktop.ini")).c_str());
+  return Utf8({value, length});
 }
 
 std::vector<HWND> ProgramRun::Windows() const {

@@ -28,7 +28,6 @@ inline constexpr int kStatus = 1109, kExit = 1110, kUpdate = 1202, kWebPage = 12
                      kOk = 1205;
 }  // namespace ids
 
-std::string IniValue(const std::string& file, const char* section, const char* key);
 std::string LibraryString(const std::string& library, int id);
 std::string Text(HWND window);
 std::string ControlText(HWND control);  // what a text box holds, through the box
@@ -84,9 +83,7 @@ class ProgramRun {
   // Paths under Root() that differ from `before`, apart from the font file.
   std::string Changes(const std::vector<std::string>& allowed = {}) const;
   void Remember() { before_ = Files(); }
-  std::string Setting(const char* key) const {  // of the target's Desktop.ini
-    return IniValue(Target("Desktop.ini"), ".ShellClassInfo", key);
-  }
+  std::string Setting(const char* key) const;  // of the target's Desktop.ini
 
   void Start(const std::string& arguments);  // after the program's quoted name
   // Starts it on the target folder, or on `folder`; true once the main window
