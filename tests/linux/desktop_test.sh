@@ -87,7 +87,7 @@ from_menu() { gio launch "$apps/morvane.desktop" "$1"; }
 from_source() { MORVANE_BUILD_DIR=$build_dir bash "$source_dir/scripts/run.sh" "$1" & }
 for row in "from_menu|$scratch/Fotos  de año ☕ & 'co'" "from_source|$on_c/写真 Ελλάδα"; do
   IFS='|' read -r start folder <<<"$row"
-  mkdir "$folder" && "$start" "$folder"
+  mkdir -p "$folder" && "$start" "$folder"
   within xdotool search --onlyvisible --name '^Morvane - ' || fail "no window for $folder ($start)"
   wine taskkill /im Morvane.exe >/dev/null 2>&1 </dev/null
   within eval '! xdotool search --name "^Morvane - "' || fail "Morvane did not close when asked"
