@@ -14,25 +14,21 @@
 
 namespace {
 
+using testing_support::Attributes;
 using testing_support::Notification;
-using testing_support::ReadWholeFile;
-using testing_support::WriteWholeFile;
+using testing_support::ReadFile;
+using testing_support::WriteFile;
 
 // The bytes of a profile file holding `text`: UTF-16 after a byte-order
 // mark, or ANSI.
 std::string ProfileBytes(const std::string& text, bool unicode) {
+  if (unicode) return testing_support::Utf16File(text);
   const std::wstring wide = platform::Wide(text);
-  if (unicode)
-    return "\xFF\xFE" + std::string(reinterpret_cast<const char*>(wide.data()), wide.size() * 2);
   std::string bytes(wide.size() * 2, '\0');
   bytes.resize(::WideCharToMultiByte(CP_ACP, 0, wide.data(), static_cast<int>(wide.size()),
                                      bytes.data(), static_cast<int>(bytes.size()), nullptr,
                                      nullptr));
   return bytes;
-}
-
-DWORD Attributes(const std::string& path) {
-  return ::GetFileAttributesA(path.c_str());
 }
 
 class FolderTest : public ::testing::Test {
@@ -48,7 +44,7 @@ class FolderTest : public ::testing::Test {
 TEST_F(FolderTest, ANewDesktopIniGetsTheDefaultsTheTipAndTheMark) {
   core::FolderSettings settings{7, 7, "C:\\icons\\set.dll", 2, "  "};
   core::WriteFolderSettings(Folder(), settings, true, language_);
-  EXPECT_EQ(ReadWholeFile(SettingsFile()),
+  EXPECT_EQ(ReadFile(SettingsFile()),
             "[.ShellClassInfo]\r\nConfirmFileOp=1\r\nNoSharing=0\r\nIconFile=C:\\icons\\set.dll\r\n"
             "IconIndex=2\r\nInfoTip=Folder customized with Morvane - Folder icons and info tips."
             "  \xA9 2026 Morvane Software\r\n[Morvane]\r\nMark=-1\r\n");
@@ -72,13 +68,13 @@ TEST_F(FolderTest, AnExistingDesktopIniKeepsWhatItHeldAndTurnsUnicodeOnlyWhenNee
               {"a Unicode file stays so", true, "c:\\a.ico", "año", true}};
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
-    WriteWholeFile(SettingsFile(), ProfileBytes(before + "InfoTip=old\r\n", row.unicodeBefore));
+    WriteFile(SettingsFile(), ProfileBytes(before + "InfoTip=old\r\n", row.unicodeBefore));
     core::FolderSettings settings{5, 1, row.iconFile, 2, row.tip};
     core::WriteFolderSettings(Folder(), settings, false, language_);
     const std::string after = before + "InfoTip=" + row.tip +
                               "\r\nConfirmFileOp=5\r\nNoSharing=1\r\n" +
                               "IconFile=" + row.iconFile + "\r\nIconIndex=2\r\n";
-    EXPECT_EQ(ReadWholeFile(SettingsFile()), ProfileBytes(after, row.unicodeAfter))
+    EXPECT_EQ(ReadFile(SettingsFile()), ProfileBytes(after, row.unicodeAfter))
         << "no mark in a file that existed";
     core::FolderSettings read;
     core::ReadFolderSettings(Folder(), read);
@@ -87,7 +83,7 @@ TEST_F(FolderTest, AnExistingDesktopIniKeepsWhatItHeldAndTurnsUnicodeOnlyWhenNee
 }
 
 TEST_F(FolderTest, ApplyMarksFileAndFolderAndAnnouncesBothInOrder) {
-  WriteWholeFile(SettingsFile(), "[.ShellClassInfo]\r\n");
+  WriteFile(SettingsFile(), "[.ShellClassInfo]\r\n");
   ::SetFileAttributesA(SettingsFile().c_str(), FILE_ATTRIBUTE_READONLY);
   ::SetFileAttributesA(Folder().c_str(), FILE_ATTRIBUTE_HIDDEN);
   core::FolderSettings settings{0, 0, "C:\\x.ico", 0, "tip"};
@@ -106,10 +102,10 @@ TEST_F(FolderTest, ApplyMarksFileAndFolderAndAnnouncesBothInOrder) {
 }
 
 TEST_F(FolderTest, RemovalDeletesOnlyItsFilesAndUnmarksTheFolder) {
-  WriteWholeFile(SettingsFile(), "[.ShellClassInfo]\r\n");
+  WriteFile(SettingsFile(), "[.ShellClassInfo]\r\n");
   ::SetFileAttributesA(SettingsFile().c_str(), FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_SYSTEM);
-  WriteWholeFile(scratch_ / "morvane.ico", "icon");
-  WriteWholeFile(scratch_ / "other.ico", "icon");
+  WriteFile(scratch_ / "morvane.ico", "icon");
+  WriteFile(scratch_ / "other.ico", "icon");
   ::SetFileAttributesA(Folder().c_str(), FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_HIDDEN);
   core::DeleteCustomisationFiles(Folder());
   core::UnmarkFolder(Folder(), shell_);
@@ -125,7 +121,7 @@ TEST_F(FolderTest, RemovalDeletesOnlyItsFilesAndUnmarksTheFolder) {
 
 TEST_F(FolderTest, RecentFilesGoOnTopOnceAndAreSavedUnderTheirNumbers) {
   const std::string ini = scratch_ / core::kRecentFileName;
-  WriteWholeFile(ini, "[Recent]\r\nARA01=c:\\a.ico\r\nARA03=c:\\c.ico\r\n");
+  WriteFile(ini, "[Recent]\r\nARA01=c:\\a.ico\r\nARA03=c:\\c.ico\r\n");
   core::RecentIconFiles recent(ini);
   recent.Load();
   EXPECT_EQ(recent.List()[1], "");

@@ -6,7 +6,6 @@
 #include <cstdio>
 #include <functional>
 #include <future>
-#include <map>
 #include <thread>
 
 #include "core/FolderCustomisation.h"
@@ -14,36 +13,19 @@
 #include "platform/IconFile.h"
 #include "platform/IniFile.h"
 #include "platform/ResourceLibrary.h"
-#include "platform/Utf8.h"
 #include "support/TestSupport.h"
 
 namespace {
 
 constexpr int kIconSize = 32;  // the large icons at 96 dpi
 
-using testing_support::ReadWholeFile;
+using testing_support::ReadFile;
+using testing_support::Snapshot;
 using testing_support::TestFolder;
-using testing_support::WriteWholeFile;
-using Snapshot = std::map<std::string, std::string>;
+using testing_support::WriteFile;
 using Make = std::function<void(const std::string& path)>;
 
 constexpr auto kCaseLimit = std::chrono::seconds(10);
-
-void Collect(const std::string& folder, const std::string& relative, Snapshot& into) {
-  WIN32_FIND_DATAW entry;
-  HANDLE search = ::FindFirstFileW(platform::Wide(folder + "\\*").c_str(), &entry);
-  for (bool more = search != INVALID_HANDLE_VALUE; more; more = ::FindNextFileW(search, &entry)) {
-    const std::string name = platform::Utf8(entry.cFileName);
-    if (name == "." || name == "..") continue;
-    if (entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) {
-      into[relative + name + "\\"] = "";
-      Collect(folder + "\\" + name, relative + name + "\\", into);
-    } else {
-      into[relative + name] = ReadWholeFile(folder + "\\" + name);
-    }
-  }
-  if (search != INVALID_HANDLE_VALUE) ::FindClose(search);
-}
 
 // Deterministic bytes with every value, NUL and line ends included.
 std::string Garbage(std::size_t length) {
@@ -64,12 +46,12 @@ std::string ResourceTablePastTheEnd(std::string image) {
 }
 
 Make Bytes(std::string bytes) {
-  return [=](const std::string& path) { WriteWholeFile(path, bytes); };
+  return [=](const std::string& path) { WriteFile(path, bytes); };
 }
 
 void MakeFolder(const std::string& path) {
   ::CreateDirectoryA(path.c_str(), nullptr);
-  WriteWholeFile(path + "\\inside.txt", "kept");
+  WriteFile(path + "\\inside.txt", "kept");
 }
 
 std::string Shown(const std::string& text) {
@@ -133,8 +115,8 @@ HostileCase IconSource(std::string name, std::string file, Make make, int count)
 
 std::vector<HostileCase> Cases() {
   const std::string ini = "[.ShellClassInfo]\r\n";
-  const std::string library = ReadWholeFile(TestFolder() + "ICONS120.DLL");
-  const std::string icon = ReadWholeFile(TestFolder() + "icons.ico");
+  const std::string library = ReadFile(TestFolder() + "ICONS120.DLL");
+  const std::string icon = ReadFile(TestFolder() + "icons.ico");
   std::string many = icon;
   many[4] = many[5] = '\xFF';
   return {
@@ -180,11 +162,10 @@ TEST(Hostile, EveryRowEndsInTimeWithItsOutcomeAndTouchesNothingElse) {
   for (const HostileCase& c : Cases()) {
     SCOPED_TRACE(c.name);
     testing_support::ScratchFolder scene;
-    WriteWholeFile(scene / "photo.jpg", Garbage(5000));
-    WriteWholeFile(scene / "beside.txt", "the user's");
+    WriteFile(scene / "photo.jpg", Garbage(5000));
+    WriteFile(scene / "beside.txt", "the user's");
     c.make(scene / c.file);
-    Snapshot before, after;
-    Collect(scene.Path(), "", before);
+    auto before = Snapshot(scene.Path());
     // A hung routine cannot be stopped from outside: past the limit the
     // whole program ends, naming the row.
     std::packaged_task<std::string()> task([&] { return c.routine(scene.Path(), scene / c.file); });
@@ -196,10 +177,9 @@ TEST(Hostile, EveryRowEndsInTimeWithItsOutcomeAndTouchesNothingElse) {
     }
     worker.join();
     EXPECT_EQ(outcome.get(), c.expected);
-    Collect(scene.Path(), "", after);
-    if (c.fileMayChange) before.erase(c.file), after.erase(c.file);
+    auto after = Snapshot(scene.Path());
+    if (c.fileMayChange) before.erase(scene / c.file), after.erase(scene / c.file);
     EXPECT_TRUE(before == after) << "files outside the row changed";
-    ::SetFileAttributesA(scene.Path().c_str(), FILE_ATTRIBUTE_NORMAL);
   }
 }
 

@@ -3,10 +3,7 @@
 #include <commctrl.h>
 
 #include <cstdlib>
-#include <filesystem>
 #include <fstream>
-#include <functional>
-#include <sstream>
 #include <stdexcept>
 
 namespace e2e {
@@ -16,28 +13,6 @@ std::string FullPath(const std::string& path) {
   wchar_t buffer[MAX_PATH * 4] = {};
   const DWORD length = ::GetFullPathNameW(Wide(path).c_str(), MAX_PATH * 4, buffer, nullptr);
   return Utf8(std::wstring(buffer, length));
-}
-
-// Calls `visit` for everything under `folder`, a folder after its contents.
-void Walk(const std::string& folder, const std::function<void(const std::string&, bool)>& visit) {
-  WIN32_FIND_DATAW entry;
-  HANDLE search = ::FindFirstFileW(Wide(folder + "\\*").c_str(), &entry);
-  for (bool more = search != INVALID_HANDLE_VALUE; more; more = ::FindNextFileW(search, &entry)) {
-    const std::string name = Utf8(entry.cFileName), path = folder + "\\" + name;
-    const bool isFolder = entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY;
-    if (name == "." || name == "..") continue;
-    if (isFolder) Walk(path, visit);
-    visit(path, isFolder);
-  }
-  if (search != INVALID_HANDLE_VALUE) ::FindClose(search);
-}
-
-void DeleteTree(const std::string& folder) {
-  Walk(folder, [](const std::string& path, bool isFolder) {
-    ::SetFileAttributesW(Wide(path).c_str(), FILE_ATTRIBUTE_NORMAL);
-    isFolder ? ::RemoveDirectoryW(Wide(path).c_str()) : ::DeleteFileW(Wide(path).c_str());
-  });
-  ::RemoveDirectoryW(Wide(folder).c_str());
 }
 
 // SendInput stays inside Wine, unseen by a window manager: while the test
@@ -77,47 +52,6 @@ std::vector<HWND> TopWindows() {  // the visible ones
   for (HWND w = ::GetWindow(::GetDesktopWindow(), GW_CHILD); w; w = ::GetWindow(w, GW_HWNDNEXT))
     if (::IsWindowVisible(w)) found.push_back(w);
   return found;
-}
-
-// The standard library's paths convert between UTF-8 and the system's UTF-16.
-std::wstring Wide(const std::string& text) {
-  return std::filesystem::path(std::u8string(text.begin(), text.end())).wstring();
-}
-
-std::string Utf8(const std::wstring& text) {
-  const std::u8string bytes = std::filesystem::path(text).u8string();
-  return {bytes.begin(), bytes.end()};
-}
-
-std::string TestFolder() {
-  wchar_t buffer[MAX_PATH * 4] = {};
-  const std::string path = Utf8({buffer, ::GetModuleFileNameW(nullptr, buffer, MAX_PATH * 4)});
-  return path.substr(0, path.find_last_of('\\') + 1);
-}
-
-std::string ReadFile(const std::string& path) {
-  std::ostringstream bytes;
-  bytes << std::ifstream(std::filesystem::path(Wide(path)), std::ios::binary).rdbuf();
-  return bytes.str();
-}
-
-void WriteFile(const std::string& path, const std::string& bytes) {
-  if (!(std::ofstream(std::filesystem::path(Wide(path)), std::ios::binary) << bytes))
-    throw std::runtime_error(path);
-}
-
-bool IsFile(const std::string& path) {
-  const DWORD attributes = ::GetFileAttributesW(Wide(path).c_str());
-  return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
-}
-
-std::string IniValue(const std::string& file, const char* section, const char* key) {
-  for (std::wstring value(4096, L'\0');; value.resize(value.size() * 2)) {
-    const DWORD length =
-        ::GetPrivateProfileStringW(Wide(section).c_str(), Wide(key).c_str(), L"", value.data(),
-                                   static_cast<DWORD>(value.size()), Wide(file).c_str());
-    if (length + 1 < value.size()) return Utf8(value.substr(0, length));
-  }
 }
 
 std::string LibraryString(const std::string& library, int id) {
@@ -164,22 +98,10 @@ bool ShowsSystemIcon(HWND icon, LPCSTR which) {
   RECT place{};
   ::GetWindowRect(icon, &place);
   const int size = ::GetSystemMetrics(SM_CXICON);
+  const POINT corner{place.left, place.top};
   // Drawn here on the background the box shows at its corner.
-  HDC screen = ::GetDC(nullptr), memory = ::CreateCompatibleDC(screen);
-  HBITMAP bitmap = ::CreateCompatibleBitmap(screen, size, size);
-  HGDIOBJ old = ::SelectObject(memory, bitmap);
-  ::SetDCBrushColor(memory, ::GetPixel(screen, place.left, place.top));
-  const RECT all{0, 0, size, size};
-  ::FillRect(memory, &all, static_cast<HBRUSH>(::GetStockObject(DC_BRUSH)));
-  ::DrawIconEx(memory, 0, 0, ::LoadIconA(nullptr, which), size, size, 0, nullptr, DI_NORMAL);
-  bool same = true;
-  for (int n = 0; n < size * size && same; ++n)
-    same = ::GetPixel(memory, n % size, n / size) ==
-           ::GetPixel(screen, place.left + n % size, place.top + n / size);
-  ::DeleteObject(::SelectObject(memory, old));
-  ::DeleteDC(memory);
-  ::ReleaseDC(nullptr, screen);
-  return same;
+  return Pixels(size, corner, ::LoadIconA(nullptr, which), ScreenPixel(corner)) ==
+         Pixels(size, corner);
 }
 
 void Answer(HWND box, int button) {
@@ -224,6 +146,29 @@ COLORREF ScreenPixel(POINT at) {
   const COLORREF colour = ::GetPixel(screen, at.x, at.y);
   ::ReleaseDC(nullptr, screen);
   return colour;
+}
+
+std::vector<COLORREF> Pixels(int side, POINT at, HICON icon, COLORREF back) {
+  BITMAPINFO info{{sizeof(BITMAPINFOHEADER), side, -side, 1, 32, BI_RGB, 0, 0, 0, 0, 0}, {}};
+  void* bits = nullptr;
+  HDC screen = ::GetDC(nullptr), memory = ::CreateCompatibleDC(screen);
+  HGDIOBJ old =
+      ::SelectObject(memory, ::CreateDIBSection(screen, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+  ::SelectObject(memory, ::GetStockObject(DC_BRUSH));
+  ::SetDCBrushColor(memory, back);
+  ::PatBlt(memory, 0, 0, side, side, PATCOPY);
+  if (icon)
+    ::DrawIconEx(memory, 0, 0, icon, side, side, 0, nullptr, DI_NORMAL);
+  else
+    ::BitBlt(memory, 0, 0, side, side, screen, at.x, at.y, SRCCOPY);
+  ::GdiFlush();
+  std::vector<COLORREF> pixels(static_cast<COLORREF*>(bits),
+                               static_cast<COLORREF*>(bits) + side * side);
+  for (COLORREF& pixel : pixels) pixel &= 0xffffff;  // no alpha
+  ::DeleteObject(::SelectObject(memory, old));
+  ::DeleteDC(memory);
+  ::ReleaseDC(nullptr, screen);
+  return pixels;
 }
 
 bool Drag(HWND window, POINT from, SIZE by) {
@@ -297,28 +242,21 @@ std::string ProgramRun::Target(const std::string& name) const {
   return root_ + "\\target" + (name.empty() ? "" : "\\" + name);
 }
 
-std::vector<std::pair<std::string, std::string>> ProgramRun::Files() const {
-  std::vector<std::pair<std::string, std::string>> files;
-  Walk(root_, [&](const std::string& path, bool isFolder) {
-    // The program's own font file comes and goes with every run.
-    if (path != File("Morvane.ttf")) files.emplace_back(path, isFolder ? "\\" : ReadFile(path));
-  });
+std::map<std::string, std::string> ProgramRun::Files() const {
+  auto files = Snapshot(root_);
+  files.erase(File("Morvane.ttf"));  // the program's own font file comes and goes with every run
   return files;
 }
 
 std::string ProgramRun::Changes(const std::vector<std::string>& allowed) const {
-  const auto after = Files();
+  auto after = Files(), all = before_;
+  all.insert(after.begin(), after.end());
   std::string changes;
-  for (const auto* list : {&before_, &after}) {
-    for (const auto& [path, bytes] : *list) {
-      const auto& other = list == &before_ ? after : before_;
-      const bool same =
-          std::find(other.begin(), other.end(), std::pair(path, bytes)) != other.end();
-      const std::string relative = path.substr(root_.size() + 1);
-      bool mayChange = false;
-      for (const std::string& prefix : allowed) mayChange |= relative.rfind(prefix, 0) == 0;
-      if (!same && !mayChange) changes += relative + "\n";
-    }
+  for (const auto& [path, bytes] : all) {
+    const std::string relative = path.substr(root_.size() + 1);
+    bool mayChange = before_.count(path) && after.count(path) && before_.at(path) == after[path];
+    for (const std::string& prefix : allowed) mayChange |= relative.rfind(prefix, 0) == 0;
+    if (!mayChange) changes += relative + "\n";
   }
   return changes;
 }
@@ -364,6 +302,13 @@ HWND ProgramRun::WaitForWindow(const std::string& className, const std::string& 
     return found != nullptr;
   });
   return found;
+}
+
+std::string ProgramRun::Setting(const char* key) const {
+  wchar_t value[4096] = {};
+  const DWORD length = ::GetPrivateProfileStringW(L".ShellClassInfo", Wide(key).c_str(), L"", value,
+                                                  4096, Wide(Target("Desktop.ini")).c_str());
+  return Utf8({value, length});
 }
 
 std::vector<HWND> ProgramRun::Windows() const {

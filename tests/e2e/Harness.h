@@ -10,7 +10,11 @@
 #include <string>
 #include <vector>
 
+#include "support/Files.h"
+
 namespace e2e {
+
+using namespace testing_support;
 
 using namespace std::chrono_literals;
 // Long enough for the slowest start (a 1 MB Desktop.ini) on a busy machine.
@@ -24,13 +28,6 @@ inline constexpr int kStatus = 1109, kExit = 1110, kUpdate = 1202, kWebPage = 12
                      kOk = 1205;
 }  // namespace ids
 
-std::wstring Wide(const std::string& text);
-std::string Utf8(const std::wstring& text);
-std::string TestFolder();  // with "\"
-std::string ReadFile(const std::string& path);
-void WriteFile(const std::string& path, const std::string& bytes);
-bool IsFile(const std::string& path);
-std::string IniValue(const std::string& file, const char* section, const char* key);
 std::string LibraryString(const std::string& library, int id);
 std::string Text(HWND window);
 std::string ControlText(HWND control);  // what a text box holds, through the box
@@ -64,6 +61,8 @@ void MovePointer(HWND window, POINT at);  // no window: screen coordinates
 // Drags the window by `by` from `from`; true once the screen shows it followed.
 bool Drag(HWND window, POINT from, SIZE by);
 COLORREF ScreenPixel(POINT at);
+// A square of the screen from `at`, or `icon` drawn over `back`, as RGB values.
+std::vector<COLORREF> Pixels(int side, POINT at, HICON icon = nullptr, COLORREF back = 0);
 void Type(const std::string& text);
 void PressKey(WORD virtualKey, WORD heldKey = 0);  // heldKey (VK_SHIFT, VK_MENU) around it
 POINT Centre(HWND window);
@@ -86,6 +85,7 @@ class ProgramRun {
   // Paths under Root() that differ from `before`, apart from the font file.
   std::string Changes(const std::vector<std::string>& allowed = {}) const;
   void Remember() { before_ = Files(); }
+  std::string Setting(const char* key) const;  // of the target's Desktop.ini
 
   void Start(const std::string& arguments);  // after the program's quoted name
   // Starts it on the target folder, or on `folder`; true once the main window
@@ -108,10 +108,10 @@ class ProgramRun {
   HWND main = nullptr;
 
  private:
-  std::vector<std::pair<std::string, std::string>> Files() const;
+  std::map<std::string, std::string> Files() const;
 
   std::string root_;
-  std::vector<std::pair<std::string, std::string>> before_;
+  std::map<std::string, std::string> before_;
   PROCESS_INFORMATION process_{};
 };
 

@@ -24,10 +24,6 @@ int Selected(const ProgramRun& run) {
       ::SendMessageA(run.Element(ids::kIconList), LVM_GETNEXTITEM, -1, LVNI_SELECTED));
 }
 
-std::string IconIndex(const ProgramRun& run) {
-  return IniValue(run.Target("Desktop.ini"), ".ShellClassInfo", "IconIndex");
-}
-
 TEST(Keyboard, TabArrowsEnterTheChooserTheAboutWindowAndAltXWithoutTheMouse) {
   ProgramRun run;
   ASSERT_TRUE(run.Open());
@@ -47,7 +43,7 @@ TEST(Keyboard, TabArrowsEnterTheChooserTheAboutWindowAndAltXWithoutTheMouse) {
   ASSERT_NE(question, nullptr);
   EXPECT_EQ(Read(question).text, LibraryString(english, IDS_APPLY_PROMPT));
   PressKey(VK_RETURN);  // Yes
-  EXPECT_TRUE(WaitUntil([&] { return IconIndex(run) == "1"; }));
+  EXPECT_TRUE(WaitUntil([&] { return run.Setting("IconIndex") == "1"; }));
   EXPECT_TRUE(WaitUntil([&] { return FocusWindow() == run.Element(ids::kApply); }));
 
   ASSERT_TRUE(Focus(run.Element(ids::kBrowse), VK_TAB, VK_SHIFT));
@@ -83,7 +79,7 @@ TEST(Keyboard, EnterOnAnIconAppliesWithoutAskingAndEndsAsTheDoubleClickDoes) {
   ASSERT_TRUE(WaitUntil([&] { return Selected(run) == 1; }));
   PressKey(VK_RETURN);
   ASSERT_TRUE(run.Ended()) << "a question would keep it open";
-  EXPECT_EQ(IconIndex(run), "1");
+  EXPECT_EQ(run.Setting("IconIndex"), "1");
 }
 
 }  // namespace

@@ -2,8 +2,6 @@
 // when a process starts, so the program started under the change sees 144 dpi.
 #include <gtest/gtest.h>
 
-#include <vector>
-
 #include "Harness.h"
 
 namespace {
@@ -24,30 +22,6 @@ struct DisplayScale {
   }
   ~DisplayScale() { ::RegDeleteKeyValueA(HKEY_CURRENT_USER, kDesktop, "LogPixels"); }
 };
-
-// A square of the screen at `at`, or `icon` drawn over `back`, as RGB values.
-std::vector<COLORREF> Pixels(int side, POINT at, HICON icon = nullptr, COLORREF back = 0) {
-  BITMAPINFO info{{sizeof(BITMAPINFOHEADER), side, -side, 1, 32, BI_RGB, 0, 0, 0, 0, 0}, {}};
-  void* bits = nullptr;
-  HDC screen = ::GetDC(nullptr), memory = ::CreateCompatibleDC(screen);
-  HGDIOBJ old =
-      ::SelectObject(memory, ::CreateDIBSection(screen, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
-  ::SelectObject(memory, ::GetStockObject(DC_BRUSH));
-  ::SetDCBrushColor(memory, back);
-  ::PatBlt(memory, 0, 0, side, side, PATCOPY);
-  if (icon)
-    ::DrawIconEx(memory, 0, 0, icon, 0, 0, 0, nullptr, DI_NORMAL);
-  else
-    ::BitBlt(memory, 0, 0, side, side, screen, at.x, at.y, SRCCOPY);
-  ::GdiFlush();
-  std::vector<COLORREF> pixels(static_cast<COLORREF*>(bits),
-                               static_cast<COLORREF*>(bits) + side * side);
-  for (COLORREF& pixel : pixels) pixel &= 0xffffff;  // no alpha
-  ::DeleteObject(::SelectObject(memory, old));
-  ::DeleteDC(memory);
-  ::ReleaseDC(nullptr, screen);
-  return pixels;
-}
 
 TEST(Scale, At150PercentTheWindowGrowsAndItsListShowsEachIconWholeAt48Pixels) {
   MovePointer(nullptr, {0, 0});  // no icon under the pointer, none lit

@@ -1,10 +1,10 @@
 // A user's whole road (an icon file chosen, chosen again from the recent list
 // in the next run, applied with an info tip, removed) for folders and icon
-// files of every script and for a path longer than MAX_PATH.
+// files of every script and for a path longer than MAX_PATH. The launcher
+// handing such names on is the Linux desktop test's (desktop_test.sh).
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <memory>
 
 #include "Harness.h"
 
@@ -23,15 +23,6 @@ struct Road {
   bool ansi = false;  // whether the ANSI code page holds every name and the tip
   size_t length = 0;
 };
-
-DWORD Attributes(const std::string& path) {
-  return ::GetFileAttributesW(Wide(path).c_str());
-}
-
-std::string Utf16File(const std::string& text) {
-  const std::wstring wide = Wide(text);
-  return "\xFF\xFE" + std::string(reinterpret_cast<const char*>(wide.data()), wide.size() * 2);
-}
 
 std::string Lower(std::string ascii) {
   std::transform(ascii.begin(), ascii.end(), ascii.begin(), ::tolower);
@@ -101,10 +92,6 @@ void Travel(const Road& road) {
     return (Attributes(settings) & kHiddenSystem) == kHiddenSystem &&
            (Attributes(folder) & FILE_ATTRIBUTE_SYSTEM);
   }));
-  // Wine's profile calls keep paths in MAX_PATH buffers.
-  if (!road.length) {
-    EXPECT_EQ(IniValue(settings, ".ShellClassInfo", "InfoTip"), road.tip);
-  }
   const std::string written =
       "[.ShellClassInfo]\r\nConfirmFileOp=1\r\nNoSharing=0\r\nIconFile=" + stored +
       "\r\nIconIndex=1\r\nInfoTip=" + road.tip + "\r\n[Morvane]\r\nMark=-1\r\n";
@@ -129,45 +116,6 @@ TEST(EveryName, AUsersRoadKeepsTheNamesAndTheTip) {
        "εικονιδια.dll", "Μακρύς δρόμος", false, 300},
   };
   for (const Road& road : roads) Travel(road);
-}
-
-// scripts/run.sh started as a Linux user starts it: Wine runs a Linux
-// program named by its path, and the environment goes with it.
-TEST(EveryName, TheLauncherHandsTheFolderOnUnchanged) {
-  ProgramRun scratch;
-  const std::string folder = scratch.Root() + "\\写真 Ελλάδα ☕";
-  ASSERT_TRUE(::CreateDirectoryW(Wide(folder).c_str(), nullptr));
-  wchar_t prefix[MAX_PATH] = {};
-  ::GetEnvironmentVariableW(L"WINEPREFIX", prefix, MAX_PATH);
-  std::string unixFolder = Utf8(prefix) + "/drive_c" + folder.substr(2);
-  std::replace(unixFolder.begin(), unixFolder.end(), '\\', '/');
-  ::SetEnvironmentVariableW(L"MORVANE_WINEPREFIX", prefix);
-  ::SetEnvironmentVariableW(L"MORVANE_BUILD_DIR", Wide(MORVANE_BUILD_DIR).c_str());
-  std::wstring line =
-      Wide("Z:\\bin\\bash " MORVANE_SOURCE_DIR "/scripts/run.sh \"" + unixFolder + "\"");
-  STARTUPINFOW startup{};
-  startup.cb = sizeof startup;
-  PROCESS_INFORMATION launcher{};  // Wine hands out no handle of a Linux process
-  ASSERT_TRUE(::CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                               &startup, &launcher));
-  // The launcher leaves windows to a window manager, which this display lacks.
-  const std::shared_ptr<void> putBack(nullptr, [](void*) {
-    ::RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\Wine\\X11 Driver", L"Managed", REG_SZ, L"N",
-                      4);
-  });
-  HWND main = nullptr;
-  ASSERT_TRUE(WaitUntil(
-      [&] {
-        for (HWND window : TopWindows())
-          if (ClassOf(window) == "MorvaneForm" && Text(window).rfind("Morvane - ", 0) == 0)
-            main = window;
-        return main != nullptr;
-      },
-      2 * kLimit));
-  ::SetWindowPos(main, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
-  EXPECT_EQ(TipAt(main, kFolderLabel), folder);
-  ::PostMessageW(main, WM_CLOSE, 0, 0);
-  EXPECT_TRUE(WaitUntil([&] { return !::IsWindow(main); }));
 }
 
 }  // namespace

@@ -78,15 +78,20 @@ rm "$scratch/ansi/Desktop.ini"
 
 # Morvane shows a window only for an existing folder: a path that lost a
 # blank or a letter on its way through %f, the launcher or Wine shows none.
-folder="$scratch/Fotos  de año ☕ & 'co'"
-mkdir "$folder" && cp "$source_dir/scripts/run.sh" "$run"
+# Started from the source tree, run.sh builds what is missing first.
+cp "$source_dir/scripts/run.sh" "$run"
 # On a display, run.sh leaves the prefix's windows to a window manager.
 trap 'wine taskkill /f /im Morvane.exe >/dev/null 2>&1 </dev/null || true; unmanaged_windows N' EXIT
-gio launch "$apps/morvane.desktop" "$folder"
 within() { for _ in $(seq 240); do "$@" >/dev/null 2>&1 && return 0; sleep 0.25; done; return 1; }
-within xdotool search --onlyvisible --name '^Morvane - ' || fail "no window for $folder"
-wine taskkill /im Morvane.exe >/dev/null 2>&1 </dev/null
-within eval '! xdotool search --name "^Morvane - "' || fail "Morvane did not close when asked"
+from_menu() { gio launch "$apps/morvane.desktop" "$1"; }
+from_source() { MORVANE_BUILD_DIR=$build_dir bash "$source_dir/scripts/run.sh" "$1" & }
+for row in "from_menu|$scratch/Fotos  de año ☕ & 'co'" "from_source|$on_c/写真 Ελλάδα"; do
+  IFS='|' read -r start folder <<<"$row"
+  mkdir -p "$folder" && "$start" "$folder"
+  within xdotool search --onlyvisible --name '^Morvane - ' || fail "no window for $folder ($start)"
+  wine taskkill /im Morvane.exe >/dev/null 2>&1 </dev/null
+  within eval '! xdotool search --name "^Morvane - "' || fail "Morvane did not close when asked"
+done
 
 bash "$source_dir/scripts/uninstall-linux.sh" >/dev/null
 ! listed || fail "Morvane is still listed for folders"

@@ -4,7 +4,6 @@
 
 #include "platform/CommonDialogText.h"
 #include "platform/IconFile.h"
-#include "platform/IniFile.h"
 #include "platform/ResourceLibrary.h"
 #include "platform/TextRules.h"
 #include "platform/Utf8.h"
@@ -15,23 +14,14 @@ namespace {
 
 constexpr int kIconSize = 32;  // the large icons at 96 dpi
 
-using testing_support::ReadWholeFile;
 using testing_support::ScratchFolder;
 using testing_support::TestFolder;
-using testing_support::WriteWholeFile;
+using testing_support::WriteFile;
 
 const std::string kBlob("\x4D\x00\xFF\x0A\x80\x41", 6);
 
 std::string Failure(const platform::ResourceLibrary& library) {
   return std::to_string(library.LastError().number) + " " + library.LastError().description;
-}
-
-TEST(IniFile, ValuesRoundTripAndMissingOnesAreEmpty) {
-  ScratchFolder folder;
-  const std::string file = folder / "x.ini";
-  EXPECT_EQ(platform::ReadIniValue("S", "K", file), "");
-  EXPECT_TRUE(platform::WriteIniValue("S", "K", "  spaced value ", file));
-  EXPECT_EQ(platform::ReadIniValue("s", "k", file), "spaced value") << "names ignore case";
 }
 
 TEST(ResourceLibrary, StringsAreCutDataTravelsByteForByteAndMissingOnesAreRecorded) {
@@ -69,7 +59,7 @@ TEST(ResourceLibrary, PicturesOwnTheirHandlesAndUnknownOnesAreNone) {
 
 TEST(ResourceLibrary, WithoutALibraryNothingLeaksFromTheProgramOrTheSystem) {
   ScratchFolder folder;
-  WriteWholeFile(folder / "Resource.DLL", "MZ this is not a library");
+  WriteFile(folder / "Resource.DLL", "MZ this is not a library");
   for (const std::string& file : {folder / "NOPE.DLL", folder / "Resource.DLL"}) {
     platform::ResourceLibrary library;
     library.Open(TestFolder() + "TESTRES.DLL");

@@ -2,61 +2,12 @@
 
 #include <shlobj.h>
 
-#include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <stdexcept>
-
-#include "platform/SystemPath.h"
-#include "platform/Utf8.h"
 
 namespace testing_support {
 
-using platform::FilePath;
-using platform::Utf8;
-
-std::string TestFolder() {
-  wchar_t buffer[MAX_PATH * 4] = {};
-  const std::string path = Utf8({buffer, ::GetModuleFileNameW(nullptr, buffer, MAX_PATH * 4)});
-  return path.substr(0, path.find_last_of('\\') + 1);
-}
-
 std::string DistFolder() {
   return TestFolder() + "..\\dist\\";
-}
-
-std::string ReadWholeFile(const std::string& path) {
-  std::ifstream in(std::filesystem::path(FilePath(path)), std::ios::binary);
-  std::ostringstream bytes;
-  bytes << in.rdbuf();
-  return bytes.str();
-}
-
-void WriteWholeFile(const std::string& path, const std::string& bytes) {
-  std::ofstream out(std::filesystem::path(FilePath(path)), std::ios::binary | std::ios::trunc);
-  out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  if (!out) throw std::runtime_error("cannot write " + path);
-}
-
-void DeleteTree(const std::string& path) {
-  const DWORD attributes = ::GetFileAttributesW(FilePath(path).c_str());
-  if (attributes == INVALID_FILE_ATTRIBUTES) return;
-  // Hidden, system and read-only entries refuse deletion otherwise.
-  ::SetFileAttributesW(FilePath(path).c_str(), FILE_ATTRIBUTE_NORMAL);
-  if (!(attributes & FILE_ATTRIBUTE_DIRECTORY)) {
-    ::DeleteFileW(FilePath(path).c_str());
-    return;
-  }
-  WIN32_FIND_DATAW entry;
-  HANDLE search = ::FindFirstFileW(FilePath(path + "\\*").c_str(), &entry);
-  if (search != INVALID_HANDLE_VALUE) {
-    do {
-      const std::string name = Utf8(entry.cFileName);
-      if (name != "." && name != "..") DeleteTree(path + "\\" + name);
-    } while (::FindNextFileW(search, &entry));
-    ::FindClose(search);
-  }
-  ::RemoveDirectoryW(FilePath(path).c_str());
 }
 
 ScratchFolder::ScratchFolder() {

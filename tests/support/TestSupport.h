@@ -1,21 +1,17 @@
-// What the unit tests share: where the built files are, scratch folders that
-// clean up after themselves, pixels read through a 32-bit DIB, and a shell
-// notifier that records instead. Paths are UTF-8, as in the program.
+// What the unit tests share besides the files: where the shipping folder is,
+// scratch folders that clean up after themselves, pixels read through a
+// 32-bit DIB, and a shell notifier that records instead.
 #pragma once
 #include <windows.h>
 #include <cstdint>
 #include <string>
 #include <vector>
 #include "platform/ShellNotifier.h"
+#include "support/Files.h"
 
 namespace testing_support {
 
-// Folders end with "\".
-std::string TestFolder();  // the test programs, TESTRES.DLL and the icon files
-std::string DistFolder();  // the shipping folder
-std::string ReadWholeFile(const std::string& path);
-void WriteWholeFile(const std::string& path, const std::string& bytes);
-void DeleteTree(const std::string& path);
+std::string DistFolder();  // the shipping folder, with "\"
 
 class ScratchFolder {
  public:
