@@ -6,7 +6,8 @@
 set -euo pipefail
 if [ -z "${MORVANE_TEST_HOME:-}" ]; then
   scratch=$(mktemp -d)
-  trap 'rm -rf "$scratch"' EXIT
+  # The session's GVfs daemons may still be writing their metadata as it ends.
+  trap 'for _ in 1 2 3 4 5; do rm -rf "$scratch" 2>/dev/null && break; sleep 0.2; done; true' EXIT
   # A desktop's file manager, the default for folders.
   mkdir -m 700 "$scratch/run" && mkdir -p "$scratch/system/applications"
   printf '[Desktop Entry]\nType=Application\nName=Files\nExec=true %%U\nMimeType=inode/directory;\n' \
