@@ -250,9 +250,10 @@ def make_icon_image(size):
     return art.resize((size, size), Image.BOX)
 
 
-def write_ico(path, images):
-    """Writes classic DIB icon entries, 32 bpp with an AND mask, which every
-    Windows version and Wine load, unlike PNG-compressed entries."""
+def ico_bytes(images, kind=1):
+    """Classic DIB icon entries, 32 bpp with an AND mask, which every Windows
+    version and Wine load, unlike PNG-compressed entries: an .ico (kind 1) or
+    a .cur (kind 2, hot spot 0, 0) of RGBA images."""
     entries, blobs = [], []
     for img in images:
         w, h = img.size
@@ -272,15 +273,21 @@ def write_ico(path, images):
         blob = header + bytes(colour) + bytes(mask)
         entries.append((w, h, len(blob)))
         blobs.append(blob)
-    out = bytearray(struct.pack("<HHH", 0, 1, len(images)))
+    out = bytearray(struct.pack("<HHH", 0, kind, len(images)))
     offset = 6 + 16 * len(images)
+    planes_bits_or_hot_spot = (1, 32) if kind == 1 else (0, 0)
     for (w, h, length), blob in zip(entries, blobs):
-        out += struct.pack("<BBBBHHII", w % 256, h % 256, 0, 0, 1, 32, length, offset)
+        out += struct.pack("<BBBBHHII", w % 256, h % 256, 0, 0, *planes_bits_or_hot_spot, length,
+                           offset)
         offset += length
     for blob in blobs:
         out += blob
+    return bytes(out)
+
+
+def write_ico(path, images):
     with open(path, "wb") as f:
-        f.write(out)
+        f.write(ico_bytes(images))
 
 
 # ---------------------------------------------------------------- main

@@ -12,38 +12,24 @@ import os
 import struct
 import sys
 
+from PIL import Image
+
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..", "scripts"))
+from make_art import ico_bytes  # noqa: E402  (one .ico writer for the project)
+
 CHECKER = 4
 SIZE = 32
 CENTRE = 16
 
 
 def ico_file(images, kind=1):
-    """An .ico (kind 1) or .cur (kind 2, hot spot 0, 0) holding 32-bit DIB
-    images with AND masks; `images` are (size, pixels) with pixels a list of
-    rows of (r, g, b, a), top row first."""
-    blobs = []
+    """`images` are (size, pixels) with pixels a list of rows of (r, g, b, a),
+    top row first."""
+    pictures = []
     for size, rows in images:
-        header = struct.pack("<IiiHHIIiiII", 40, size, size * 2, 1, 32, 0, 0, 0, 0, 0, 0)
-        stride = ((size + 31) // 32) * 4
-        colour, mask = bytearray(), bytearray()
-        for row in reversed(rows):  # DIBs run bottom-up
-            bits = bytearray(stride)
-            for x, (r, g, b, a) in enumerate(row):
-                colour += bytes((b, g, r, a))
-                if a == 0:
-                    bits[x // 8] |= 0x80 >> (x % 8)
-            mask += bits
-        blobs.append((size, header + colour + mask))
-    out = bytearray(struct.pack("<HHH", 0, kind, len(blobs)))
-    offset = 6 + 16 * len(blobs)
-    planes_bits_or_hot_spot = (1, 32) if kind == 1 else (0, 0)
-    for size, blob in blobs:
-        out += struct.pack("<BBBBHHII", size % 256, size % 256, 0, 0, *planes_bits_or_hot_spot,
-                           len(blob), offset)
-        offset += len(blob)
-    for _, blob in blobs:
-        out += blob
-    return bytes(out)
+        pictures.append(Image.new("RGBA", (size, size)))
+        pictures[-1].putdata([pixel for row in rows for pixel in row])
+    return ico_bytes(pictures, kind)
 
 
 def checkerboard(size):
