@@ -7,7 +7,6 @@
 #include "platform/DisplayDepth.h"
 #include "platform/FileSystem.h"
 #include "platform/MessageBoxes.h"
-#include "platform/ShellIcon.h"
 #include "platform/Utf8.h"
 #include "resource_ids.h"
 #include "toolkit/MessageLoop.h"
@@ -83,7 +82,6 @@ void Run::Start() {
 
   targetFolder_ = TargetFolderFrom(commandLine);
   if (!platform::FolderExists(targetFolder_)) EndProcessNow();
-  platform::AskShellIconAhead(targetFolder_, platform::kLargeShellIcon);
 
   settingsFileExisted_ = platform::FileExists(core::SettingsFilePath(targetFolder_));
   CheckColourDepth();

@@ -1,10 +1,6 @@
 #include "platform/ShellIcon.h"
 
-#include <objbase.h>
 #include <shellapi.h>
-
-#include <memory>
-#include <utility>
 
 #include "platform/SystemPath.h"
 
@@ -17,55 +13,17 @@ constexpr UINT kSmallIconFlags = SHGFI_ICON | SHGFI_SMALLICON;
 // that does not exist gets no icon.
 constexpr DWORD kNoFileAttributes = 0;
 
-UINT IconFlags(std::int32_t size) {
-  return size == kLargeShellIcon ? kLargeIconFlags : kSmallIconFlags;
-}
-
-HICON AskShell(const std::wstring& path, UINT flags) {
-  SHFILEINFOW info{};
-  // After a failed call the record may hold junk, so its handle is not read.
-  if (!::SHGetFileInfoW(path.c_str(), kNoFileAttributes, &info, sizeof info, flags)) {
-    return nullptr;
-  }
-  return info.hIcon;
-}
-
-struct Question {
-  std::wstring path;
-  UINT flags;
-  HICON answer = nullptr;
-  HANDLE thread = nullptr;
-};
-// Owned here until collected; a process that ends first simply ends.
-Question* asked = nullptr;
-
-DWORD WINAPI AskOnItsOwnThread(void* parameter) {
-  auto& question = *static_cast<Question*>(parameter);
-  const HRESULT com = ::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
-  question.answer = AskShell(question.path, question.flags);
-  if (SUCCEEDED(com)) ::CoUninitialize();
-  return 0;
-}
-
 }  // namespace
 
-void AskShellIconAhead(const std::string& path, std::int32_t size) {
-  if (asked) return;
-  auto question = std::make_unique<Question>(Question{ShellPath(path), IconFlags(size)});
-  question->thread = ::CreateThread(nullptr, 0, &AskOnItsOwnThread, question.get(), 0, nullptr);
-  if (question->thread) asked = question.release();
-}
-
 Picture ShellIconPicture(const std::string& path, std::int32_t size) {
-  const std::wstring shellPath = ShellPath(path);
-  const UINT flags = IconFlags(size);
-  if (asked && asked->path == shellPath && asked->flags == flags) {
-    const std::unique_ptr<Question> question(std::exchange(asked, nullptr));
-    ::WaitForSingleObject(question->thread, INFINITE);
-    ::CloseHandle(question->thread);
-    return IconToPicture(question->answer);
+  SHFILEINFOW info{};
+  const UINT flags = size == kLargeShellIcon ? kLargeIconFlags : kSmallIconFlags;
+  // After a failed call the record may hold junk, so its handle is not read.
+  if (!::SHGetFileInfoW(ShellPath(path).c_str(), kNoFileAttributes, &info, sizeof info, flags)) {
+    return {};
   }
-  return IconToPicture(AskShell(shellPath, flags));
+  if (!info.hIcon) return {};
+  return IconToPicture(info.hIcon);
 }
 
 Picture IconToPicture(HICON icon) {

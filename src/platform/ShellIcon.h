@@ -19,14 +19,6 @@ inline constexpr std::int32_t kLargeShellIcon = 2;
 // picture for a path that does not exist.
 Picture ShellIconPicture(const std::string& path, std::int32_t size);
 
-// Puts the same question to the shell on a thread of its own, so that the
-// next ShellIconPicture of this path and size only collects the answer. The
-// first question in a process builds the shell's image list, which takes
-// longer than anything else start-up does; asked ahead, it overlaps the
-// splash. One question at a time: a second one while the first waits is
-// not asked ahead.
-void AskShellIconAhead(const std::string& path, std::int32_t size);
-
 // Hands `icon` over to a new picture, which destroys it with its last
 // reference. The caller must not release the icon afterwards, even when no
 // picture could be made. No picture for 0.

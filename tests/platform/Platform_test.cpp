@@ -5,7 +5,6 @@
 #include "platform/CommonDialogText.h"
 #include "platform/IconFile.h"
 #include "platform/ResourceLibrary.h"
-#include "platform/ShellIcon.h"
 #include "platform/TextRules.h"
 #include "platform/Utf8.h"
 #include "support/TestSupport.h"
@@ -105,34 +104,6 @@ TEST(IconFile, CountsAndExtractsWhatTheFileHolds) {
   ::DeleteObject(info.hbmColor);
   ::DeleteObject(info.hbmMask);
   platform::ReleaseIcon(icon);
-}
-
-std::vector<COLORREF> PixelsOf(const platform::Picture& picture) {
-  ICONINFO info{};
-  if (!::GetIconInfo(static_cast<HICON>(picture.Handle()), &info)) return {};
-  int width = 0;
-  auto pixels = testing_support::ReadPixels(info.hbmColor, width);
-  ::DeleteObject(info.hbmColor);
-  ::DeleteObject(info.hbmMask);
-  return pixels;
-}
-
-// Start-up asks the shell ahead for the folder's icon; the answer collected
-// must be the one of the path asked, whatever was asked in between.
-TEST(ShellIcon, AnAnswerAskedAheadIsThatPathsAnswer) {
-  ScratchFolder folder;
-  WriteFile(folder / "Desktop.ini",
-            "[.ShellClassInfo]\r\nIconResource=" + TestFolder() + "ICONS120.DLL,7\r\n");
-  ::SetFileAttributesA(folder.Path().c_str(), FILE_ATTRIBUTE_SYSTEM);
-  const std::string missing = folder / "missing";
-  const auto now = PixelsOf(platform::ShellIconPicture(folder.Path(), platform::kLargeShellIcon));
-  ASSERT_FALSE(now.empty());
-
-  platform::AskShellIconAhead(folder.Path(), platform::kLargeShellIcon);
-  EXPECT_FALSE(platform::ShellIconPicture(missing, platform::kLargeShellIcon).Handle());
-  EXPECT_EQ(PixelsOf(platform::ShellIconPicture(folder.Path(), platform::kLargeShellIcon)), now);
-  platform::AskShellIconAhead(missing, platform::kLargeShellIcon);
-  EXPECT_FALSE(platform::ShellIconPicture(missing, platform::kLargeShellIcon).Handle());
 }
 
 TEST(CommonDialogText, ConversionsForTheDialogRecords) {
