@@ -19,8 +19,8 @@ Control::Control(std::string name, std::string kind, const wchar_t* className, D
   ::SetWindowTextW(window, platform::Wide(Name()).c_str());
   // The procedure is swapped rather than chained with SetWindowSubclass:
   // Wine keeps that chain in a window property, and reading it is a trip to
-  // the Wine server on every message, which made each item added to the
-  // icon list cost ten times the insertion itself.
+  // the Wine server on every message: adding 1234 items to the icon list
+  // took 285 ms and more, against 5 ms without.
   ::SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
   own_ = reinterpret_cast<WNDPROC>(
       ::SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Control::Procedure)));

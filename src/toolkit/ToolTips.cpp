@@ -35,18 +35,18 @@ ToolTips::~ToolTips() {
   if (tips_) ::DestroyWindow(tips_);
 }
 
+bool ToolTips::Watches(HWND window) const {
+  return std::find(watched_.begin(), watched_.end(), window) != watched_.end();
+}
+
 void ToolTips::Watch(HWND window) {
-  if (std::find(watched_.begin(), watched_.end(), window) == watched_.end()) {
-    watched_.push_back(window);
-  }
+  if (!Watches(window)) watched_.push_back(window);
 }
 
 void ToolTips::Relay(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   if (!IsMouseMessage(message)) return;
   for (const ToolTips* tips : LiveTips()) {
-    if (std::find(tips->watched_.begin(), tips->watched_.end(), window) == tips->watched_.end()) {
-      continue;
-    }
+    if (!tips->Watches(window)) continue;
     MSG mouse{window, message, wParam, lParam, static_cast<DWORD>(::GetMessageTime()), {}};
     ::SendMessageW(tips->tips_, TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&mouse));
   }

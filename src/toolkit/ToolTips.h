@@ -33,6 +33,7 @@ class ToolTips {
 
  private:
   void Put(TTTOOLINFOW& tool, const std::string& text);
+  bool Watches(HWND window) const;
   void Watch(HWND window);
   HWND form_;
   HWND tips_;
