@@ -82,7 +82,9 @@ rm "$scratch/ansi/Desktop.ini"
 # Started from the source tree, run.sh builds what is missing first.
 cp "$source_dir/scripts/run.sh" "$run"
 # On a display, run.sh leaves the prefix's windows to a window manager.
-trap 'wine taskkill /f /im Morvane.exe >/dev/null 2>&1 </dev/null || true; unmanaged_windows N' EXIT
+# A copy left running would make the next test's Morvane end at once, as a second copy.
+trap 'wine taskkill /f /im Morvane.exe >/dev/null 2>&1 </dev/null || true
+  within eval "! pgrep -f Morvane.exe"; unmanaged_windows N' EXIT
 within() { for _ in $(seq 240); do "$@" >/dev/null 2>&1 && return 0; sleep 0.25; done; return 1; }
 from_menu() { gio launch "$apps/morvane.desktop" "$1"; }
 from_source() { MORVANE_BUILD_DIR=$build_dir bash "$source_dir/scripts/run.sh" "$1" & }
