@@ -23,11 +23,12 @@ unmanaged_windows N
 ctest --test-dir "$build_dir" --output-on-failure "$@"
 
 # Most Linux desktops run a window manager, and Wine then leaves stacking,
-# activation and moves to it: the shadow's test again, under openbox.
+# activation and moves to it: the shadow's and the splash's tests again,
+# under openbox.
 if ctest --test-dir "$build_dir" -N "$@" | grep ' e2e_tests$' >/dev/null; then
   echo "Again under a window manager (openbox, Managed=Y):"
   start_window_manager
   start_x_input_relay
   unmanaged_windows Y
-  GTEST_FILTER='Shadow.*' ctest --test-dir "$build_dir" --output-on-failure -R '^e2e_tests$'
+  GTEST_FILTER='Shadow.*:Splash.*' ctest --test-dir "$build_dir" --output-on-failure -R '^e2e_tests$'
 fi

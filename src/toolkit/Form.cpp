@@ -65,9 +65,19 @@ void Form::Load() {
   OnLoad();
 }
 
+// Shown while another form stands in front, it waits to become active until
+// that rule lifts: under Wine, becoming active raises it over the front form.
 void Form::Show() {
   Load();
-  if (Loaded()) ::ShowWindow(Hwnd(), ActivatesOnShow() ? SW_SHOW : SW_SHOWNA);
+  if (!Loaded()) return;
+  const bool activate = ActivatesOnShow() && !(front_ && front_->Visible());
+  ::ShowWindow(Hwnd(), activate ? SW_SHOW : SW_SHOWNA);
+}
+
+void Form::StayBehind(const Form* front) {
+  const bool lifted = front_ && !front;
+  front_ = front;
+  if (lifted && Visible() && ActivatesOnShow()) ::SetForegroundWindow(Hwnd());
 }
 
 void Form::SetOwner(const Form* owner) {
@@ -397,28 +407,24 @@ void Form::MoveFocus(bool backwards) {
   }
 }
 
-void Form::KeepBehindFront(const WINDOWPOS& position) {
-  if (!front_ || keepingBehind_ || !front_->Visible() || (position.flags & SWP_NOZORDER)) return;
+// The front form rises rather than this one sinking below it: Wine restacks
+// the X windows only for the window that becomes the topmost one, and when X
+// exposes a window that it still shows over the front form, Wine quietly
+// brings that window back up over the front form.
+void Form::KeepBehindFront() {
+  if (!front_ || !front_->Visible()) return;
   for (HWND above = ::GetWindow(Hwnd(), GW_HWNDPREV); above;
        above = ::GetWindow(above, GW_HWNDPREV)) {
     if (above == front_->Hwnd()) return;
   }
-  // The system keeps an owned window above its owner, so the owner goes
-  // first; the system refusing a move must not bring the rule back here.
-  keepingBehind_ = true;
-  constexpr UINT kZOrderOnly = SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE;
-  if (HWND owner = ::GetWindow(Hwnd(), GW_OWNER)) {
-    ::SetWindowPos(owner, front_->Hwnd(), 0, 0, 0, 0, kZOrderOnly);
-  }
-  ::SetWindowPos(Hwnd(), front_->Hwnd(), 0, 0, 0, 0, kZOrderOnly);
-  keepingBehind_ = false;
+  ::SetWindowPos(front_->Hwnd(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
 LRESULT Form::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == KeyPreviewMessage()) return PreviewKey(*reinterpret_cast<const MSG*>(lParam));
   switch (message) {
     case WM_WINDOWPOSCHANGED:
-      KeepBehindFront(*reinterpret_cast<WINDOWPOS*>(lParam));
+      if (!(reinterpret_cast<WINDOWPOS*>(lParam)->flags & SWP_NOZORDER)) KeepBehindFront();
       return Default(message, wParam, lParam);
     case WM_PAINT: OnPaintMessage(); return 0;
     case WM_CLOSE: Unload(kUnloadFromWindow); return 0;

@@ -62,10 +62,11 @@ class Form : public Element, public Canvas, private WindowBase, public ElementOw
   // Makes `owner` (nullptr for none) this form's owner: the system and any
   // window manager keep a form above its owner and its owner right beneath it.
   void SetOwner(const Form* owner);
-  // While `front` (another form of the program) is shown, this form goes
-  // back beneath it whenever it is raised above it; nullptr lifts the rule.
+  // While `front` (another form of the program) is shown, it is raised over
+  // this form whenever this form is raised above it; nullptr lifts the rule.
   // Unlike a topmost window, `front` stays behind other programs' windows.
-  void StayBehind(const Form* front) { front_ = front; }
+  // Shown meanwhile, this form becomes active when the rule lifts.
+  void StayBehind(const Form* front);
   bool Visible() const;
   void Unload() { Unload(kUnloadFromCode); }
   void Unload(UnloadMode mode);
@@ -157,7 +158,7 @@ class Form : public Element, public Canvas, private WindowBase, public ElementOw
   T& Keep(std::unique_ptr<T> element);
   void DestroyElements();
   void OnPaintMessage();
-  void KeepBehindFront(const WINDOWPOS& position);
+  void KeepBehindFront();
   void OnActivateMessage(WORD state);
   void OnDpiChangedMessage(int dpi, const RECT& suggested);
   template <typename T>
@@ -188,7 +189,6 @@ class Form : public Element, public Canvas, private WindowBase, public ElementOw
   MouseHandlers* pressed_ = nullptr;
   HWND focusToRestore_ = nullptr;
   const Form* front_ = nullptr;
-  bool keepingBehind_ = false;
 };
 
 }  // namespace toolkit

@@ -1,5 +1,7 @@
 #include "ui/AboutWindow.h"
 
+#include <utility>
+
 #include "platform/Dpi.h"
 #include "platform/WebPage.h"
 #include "resource_ids.h"
@@ -29,8 +31,17 @@ AboutWindow::AboutWindow(const WindowContext& context)
     : Form(names::kAboutWindow, kClientWidth, kClientHeight), context_(context) {}
 AboutWindow::~AboutWindow() = default;
 
+void AboutWindow::SetSplash(bool splash) {
+  splash_ = splash;
+  if (!splash && deferredPageOwner_) Open(std::exchange(deferredPageOwner_, nullptr));
+}
+
 void AboutWindow::Open(HWND pageOwner) {
   if (Loaded()) return;
+  if (splash_) {
+    deferredPageOwner_ = pageOwner;
+    return;
+  }
   pageOwner_ = pageOwner;
   ShowModal();
 }

@@ -19,13 +19,15 @@ class AboutWindow : public toolkit::Form {
 
   // While set, the window loads as the splash: in front, its buttons hidden
   // and disabled, the splash text shown.
-  void SetSplash(bool splash) { splash_ = splash; }
+  // Clearing it opens the window if that was asked for meanwhile.
+  void SetSplash(bool splash);
 
   // Opens the window modally; the web pages its buttons open belong to
   // `pageOwner`, the program's main window. While the same window still
   // stands as the splash (start-up lets messages run as it lists the icons),
   // the request is ignored: the splash already shows the information and
-  // start-up closes it.
+  // start-up closes it. Asked for after the splash closed but before
+  // start-up ended, the window opens as the about window when it ends.
   void Open(HWND pageOwner);
 
   // Repaints the button faces in their normal state.
@@ -48,6 +50,7 @@ class AboutWindow : public toolkit::Form {
 
   const WindowContext& context_;
   bool splash_ = false;
+  HWND deferredPageOwner_ = nullptr;
   HWND pageOwner_ = nullptr;
 
   toolkit::TextBox* text_ = nullptr;

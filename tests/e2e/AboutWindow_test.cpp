@@ -5,6 +5,7 @@
 
 #include <cstring>
 #include <memory>
+#include <optional>
 #include <regex>
 
 #include "Harness.h"
@@ -100,9 +101,20 @@ TEST(Splash, StandsOverTheMainWindowButNotOverOtherPrograms) {
     return splash && shadow && run.main;
   }));
   EXPECT_FALSE(::GetWindowLongPtrA(splash, GWL_EXSTYLE) & WS_EX_TOPMOST);
-  // The main window shows on top and puts itself and its shadow back under
-  // the splash at once, one after the other.
-  EXPECT_TRUE(WaitUntil([&] { return Above(splash, run.main) && Above(run.main, shadow); }, 5s));
+  // The main window shows on top and the splash rises over it at once. The
+  // order last seen before the splash closes tells whether it stayed so
+  // while the icons were listed.
+  std::optional<bool> splashOverMain, mainOverShadow;
+  ASSERT_TRUE(WaitUntil([&] {
+    const bool listing = run.IconCount() > 0;
+    const bool ordered = Above(splash, run.main), shadowBeneath = Above(run.main, shadow);
+    if (!::IsWindowVisible(splash)) return true;
+    if (listing) splashOverMain = ordered, mainOverShadow = shadowBeneath;
+    return false;
+  }));
+  ASSERT_TRUE(splashOverMain.has_value()) << "the splash closed before any icon was listed";
+  EXPECT_TRUE(*splashOverMain);
+  EXPECT_TRUE(*mainOverShadow);
   EXPECT_TRUE(WaitUntil([&] { return run.IconCount() == 1234 && !::IsWindow(splash); }));
   EXPECT_TRUE(run.Close());
 }

@@ -69,8 +69,6 @@ TEST(ScreenReaders, EveryElementHasANameInTheUsersLanguageAndItsRole) {
     auto text = [&](int id) { return LibraryString(run.File(language), id); };
     std::string defaultLabel = text(IDS_DEFAULT_ICON_LABEL);
     defaultLabel.replace(defaultLabel.find("\r\n"), 2, " ");
-    const std::string status = Text(run.Element(ids::kStatus));
-    EXPECT_NE(status, "");
     PressKey(VK_F1);
     HWND main = run.main, about = run.WaitForWindow("MorvaneForm", "frmSplash");
     ASSERT_NE(about, nullptr);
@@ -90,15 +88,23 @@ TEST(ScreenReaders, EveryElementHasANameInTheUsersLanguageAndItsRole) {
         {main, ids::kBrowse, text(IDS_BROWSE_BUTTON), ROLE_SYSTEM_PUSHBUTTON, IDS_BROWSE_KEY},
         {main, ids::kApply, text(IDS_APPLY_BUTTON), ROLE_SYSTEM_PUSHBUTTON, IDS_APPLY_KEY},
         {main, ids::kExit, text(IDS_EXIT_BUTTON), ROLE_SYSTEM_PUSHBUTTON, IDS_EXIT_KEY},
-        {main, ids::kStatus, status, ROLE_SYSTEM_STATUSBAR, 0},
+        {main, ids::kStatus, "", ROLE_SYSTEM_STATUSBAR, 0},  // named by its own text
         {about, 1201, text(IDS_PRODUCT_NAME) + " " + text(IDS_ABOUT_VERSION), ROLE_SYSTEM_TEXT, 0},
         {about, ids::kUpdate, text(IDS_ABOUT_UPDATE), ROLE_SYSTEM_PUSHBUTTON, 0},
         {about, ids::kWebPage, text(IDS_ABOUT_WEB_PAGE), ROLE_SYSTEM_PUSHBUTTON, 0},
         {about, ids::kHelp, text(IDS_HELP), ROLE_SYSTEM_PUSHBUTTON, 0},
         {about, ids::kOk, text(IDS_ABOUT_OK), ROLE_SYSTEM_PUSHBUTTON, 0}};
     for (const auto& row : rows) {
-      const Seen seen = Ask(::GetDlgItem(row.window, row.id));
-      EXPECT_EQ(seen.name, row.name) << row.id;
+      HWND element = ::GetDlgItem(row.window, row.id);
+      Seen seen = Ask(element);
+      std::string name = row.name;
+      // The strip's text changes the first time the pointer moves over the
+      // window, which may be just as it is asked.
+      if (name.empty()) {
+        WaitUntil([&] { return (seen = Ask(element)).name == (name = Text(element)); });
+        EXPECT_NE(name, "");
+      }
+      EXPECT_EQ(seen.name, name) << row.id;
       EXPECT_EQ(seen.role, row.role) << row.id;
       EXPECT_EQ(seen.shortcut, row.key ? "Alt+" + text(row.key) : "") << row.id;
     }

@@ -47,10 +47,16 @@ std::string ClassOf(HWND window) {
   return std::string(buffer, std::max(0, ::GetClassNameA(window, buffer, sizeof buffer)));
 }
 
-std::vector<HWND> TopWindows() {  // the visible ones
+// The visible ones, from top to bottom. Taken in one snapshot: walking the
+// order window by window misses one that moves up past the walk meanwhile.
+std::vector<HWND> TopWindows() {
   std::vector<HWND> found;
-  for (HWND w = ::GetWindow(::GetDesktopWindow(), GW_CHILD); w; w = ::GetWindow(w, GW_HWNDNEXT))
-    if (::IsWindowVisible(w)) found.push_back(w);
+  ::EnumWindows(
+      [](HWND window, LPARAM list) {
+        if (::IsWindowVisible(window)) reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+        return TRUE;
+      },
+      reinterpret_cast<LPARAM>(&found));
   return found;
 }
 
