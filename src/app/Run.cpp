@@ -118,8 +118,10 @@ void Run::Start() {
   toolkit::DoEvents();
   toolkit::DoEvents();
 
-  splash.Unload();
+  // Active before the splash goes: the main window takes the keyboard and
+  // the pointer's tips the moment the splash is seen to close.
   main.StayBehind(nullptr);
+  splash.Unload();
   toolkit::DoEvents();
   splash.SetSplash(false);
 }
