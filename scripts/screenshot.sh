@@ -57,11 +57,8 @@ cp "$build_dir"/dist/* "$splash_copy/"
 cp "$build_dir/tests/ICONS1234.DLL" "$splash_copy/iconos.dll"
 wine "$splash_copy/Morvane.exe" "${words[@]}" &
 morvane=$!
-splash=$(timeout 20 xdotool search --sync --onlyvisible --name '^frmSplash$' | head -n 1)
-sleep 1.5
-# Without a window manager nothing keeps a topmost window above one that Wine
-# maps later: raise the splash as a window manager would.
-xdotool windowraise "$splash"
+# Taken while the icons load, over the main window shown behind the splash.
+timeout 20 xdotool search --sync --onlyvisible --name '^Morvane - ' >/dev/null
 sleep 0.5
 /usr/bin/import -window root -crop 442x323+291+222 +repage "$repo_root/docs/splash.png"
 wine taskkill /im Morvane.exe >/dev/null 2>&1 || true
